@@ -1,0 +1,37 @@
+# Native shell: the simulated host, the scenario runner and the tests.
+find_package(PkgConfig REQUIRED)
+pkg_check_modules(LIBXML2 REQUIRED IMPORTED_TARGET libxml-2.0)
+find_package(nlohmann_json 3 REQUIRED)
+find_package(GTest REQUIRED)
+find_package(benchmark QUIET)
+
+file(GLOB native_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/native/*.cpp)
+file(GLOB sim_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/sim/*.cpp)
+add_library(quorbel_sim STATIC ${native_sources} ${sim_sources})
+target_link_libraries(quorbel_sim PUBLIC quorbel_core PkgConfig::LIBXML2 nlohmann_json::nlohmann_json)
+
+file(GLOB app_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/apps/quorbel-sim/*.cpp)
+add_executable(quorbel-sim ${app_sources})
+target_link_libraries(quorbel-sim PRIVATE quorbel_sim)
+target_compile_definitions(quorbel-sim PRIVATE QUORBEL_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
+
+enable_testing()
+include(GoogleTest)
+# One test binary per folder under tests/unit, so that each area builds and fails on its own.
+file(GLOB unit_dirs LIST_DIRECTORIES true ${CMAKE_SOURCE_DIR}/tests/unit/*)
+foreach(dir IN LISTS unit_dirs)
+  if(IS_DIRECTORY ${dir})
+    get_filename_component(area ${dir} NAME)
+    file(GLOB test_sources CONFIGURE_DEPENDS ${dir}/*.cpp)
+    if(test_sources)
+      add_executable(test_${area} ${test_sources})
+      target_link_libraries(test_${area} PRIVATE quorbel_sim GTest::gtest_main)
+      target_compile_definitions(test_${area} PRIVATE QUORBEL_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
+      gtest_discover_tests(test_${area} PROPERTIES LABELS native DISCOVERY_TIMEOUT 60)
+    endif()
+  endif()
+endforeach()
+
+if(EXISTS ${CMAKE_SOURCE_DIR}/bench/CMakeLists.txt AND benchmark_FOUND)
+  add_subdirectory(bench)
+endif()
