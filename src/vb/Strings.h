@@ -11,7 +11,8 @@ namespace vb {
 enum class Compare { Binary, Text };
 
 int InStr(const String& text, const String& find, Compare mode, int start = 1);  // 0 = absent
-std::vector<String> Split(const String& text, const String& separator);  // empty pieces kept
+// Empty pieces kept; empty text gives no piece (as VB), an empty separator the whole text.
+std::vector<String> Split(const String& text, const String& separator);
 String Mid(const String& text, int start);                 // raises 5 when start < 1
 String Mid(const String& text, int start, int length);     // raises 5 when start < 1 or length < 0
 String Left(const String& text, int length);
@@ -23,6 +24,8 @@ String RTrim(const String& text);
 String UCase(const String& text);
 String LCase(const String& text);
 bool equalText(const String& a, const String& b);  // equal ignoring case (Compare::Text)
+char16_t upperUnit(char16_t c);  // the case mapping of UCase/LCase and Compare::Text
+char16_t lowerUnit(char16_t c);
 String Replace(const String& text, const String& find, const String& with);
 
 // UTF-8 at the edges (JSON, console).

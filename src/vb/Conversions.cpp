@@ -1,0 +1,128 @@
+// VB's conversion functions over Variants.
+#include "vb/Conversions.h"
+
+#include <cmath>
+#include <limits>
+
+#include "vb/NumberParse.h"
+#include "vb/Strings.h"
+
+namespace vb {
+
+namespace {
+
+thread_local char16_t tDecimalSeparator = u'.';
+
+// "&H"/"&O" text is typed as VB types such literals, so "&HFFFF" is -1 and "&H8000" -32768.
+double textToDouble(const String& text) {
+    const auto number = detail::parseNumber(text, tDecimalSeparator);
+    if (!number) throw RuntimeError(err::kTypeMismatch);
+    return number->radix ? detail::radixValue(number->bits) : number->value;
+}
+
+// Halves go to the even neighbour, as VB's integer conversions round.
+double roundHalfEven(double d) {
+    const double below = std::floor(d);
+    const double diff = d - below;
+    if (diff > 0.5) return below + 1;
+    if (diff < 0.5) return below;
+    return std::fmod(below, 2.0) == 0 ? below : below + 1;
+}
+
+template <typename Int>
+Int toInteger(double d) {
+    const double r = roundHalfEven(d);
+    if (!(r >= std::numeric_limits<Int>::min() && r <= std::numeric_limits<Int>::max()))
+        throw RuntimeError(err::kOverflow);
+    return static_cast<Int>(r);
+}
+
+void rejectNull(const Variant& v) {
+    if (v.isNull()) throw RuntimeError(94);
+}
+
+}  // namespace
+
+void setDecimalSeparator(char16_t separator) {
+    tDecimalSeparator = separator;
+}
+char16_t decimalSeparator() {
+    return tDecimalSeparator;
+}
+
+String CStr(const Variant& v) {
+    switch (v.type()) {
+        case VarType::Empty:
+            return String();
+        case VarType::Null:
+            throw RuntimeError(94);
+        case VarType::Boolean:
+            return v.boolean() ? u"True" : u"False";
+        case VarType::Integer:
+            return numberText(v.integer());
+        case VarType::Long:
+            return numberText(v.longValue());
+        case VarType::Double:
+            return numberText(v.dbl());
+        case VarType::String:
+            return v.str();
+    }
+    return String();
+}
+
+double CDbl(const Variant& v) {
+    switch (v.type()) {
+        case VarType::Empty:
+            return 0;
+        case VarType::Null:
+            throw RuntimeError(94);
+        case VarType::Boolean:
+            return v.boolean() ? -1 : 0;
+        case VarType::Integer:
+            return v.integer();
+        case VarType::Long:
+            return v.longValue();
+        case VarType::Double:
+            return v.dbl();
+        case VarType::String:
+            return textToDouble(v.str());
+    }
+    return 0;
+}
+
+int32_t CLng(const Variant& v) {
+    return toInteger<int32_t>(CDbl(v));
+}
+
+int16_t CInt(const Variant& v) {
+    return toInteger<int16_t>(CDbl(v));
+}
+
+bool CBool(const Variant& v) {
+    rejectNull(v);
+    if (v.type() == VarType::Boolean) return v.boolean();
+    if (v.type() == VarType::String) {
+        const String t = Trim(v.str());
+        if (equalText(t, u"True")) return true;
+        if (equalText(t, u"False")) return false;
+    }
+    return CDbl(v) != 0;
+}
+
+bool IsNumeric(const Variant& v) {
+    switch (v.type()) {
+        case VarType::Null:
+            return false;
+        case VarType::String:
+            break;
+        default:
+            return true;
+    }
+    try {
+        return detail::parseNumber(v.str(), tDecimalSeparator).has_value();
+    } catch (const RuntimeError&) {
+        return false;  // too large for a Double
+    }
+}
+
+}  // namespace vb
