@@ -3,14 +3,17 @@
 #include <cstdint>
 
 #include "handlers/Env.h"
+#include "vb/Variant.h"
 
 namespace handlers {
+
+using vb::String;
 
 String leeDirCatalogos(Env& env);       // SPACE.INI through the profile reader
 String leeDirCatalogosTexto(Env& env);  // Space.ini read as text (the Wizard's reader)
 
 struct CargaCatalogo {
-    String ruta;          // the path handed to FileLoad
+    String ruta;           // the path handed to FileLoad
     bool cargado = false;  // FileLoad's answer
 };
 // Locates the catalogue file of the object (name from information 0) under dirCatalogos or one

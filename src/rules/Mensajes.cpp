@@ -1,0 +1,97 @@
+#include "rules/Mensajes.h"
+
+#include <array>
+
+#include "handlers/Textos.h"
+#include "host/Factory.h"
+#include "rules/ModVariables.h"
+#include "vb/Conversions.h"
+
+namespace rules {
+
+namespace {
+
+constexpr std::array<const char16_t*, 36> kModelosST = {u"TURIA ST",
+                                                        u"TIBER ST",
+                                                        u"CORCEGA ST",
+                                                        u"MONZA ST",
+                                                        u"HAVANA ST",
+                                                        u"LAZIO ST",
+                                                        u"MIAMI ST",
+                                                        u"MIKONOS ST",
+                                                        u"LAZIO brillo ST",
+                                                        u"OREGON ST",
+                                                        u"CAPRI ST (1)",
+                                                        u"MARBELLA ST (2)",
+                                                        u"MURANO ST (3)",
+                                                        u"AVANT ST (3)",
+                                                        u"ALPINA ST (3)",
+                                                        u"SIENA ST (1)",
+                                                        u"ALPINA BRILLO ST (4)",
+                                                        u"AQUARELA ST (4)",
+                                                        u"MADEIRA ST (4)",
+                                                        u"MICHIGAN ST (4)",
+                                                        u"SIENA BRILLO ST (5)",
+                                                        u"AQUARELA ST (5)",
+                                                        u"NORDICA ST (5)",
+                                                        u"SIENA MADERA ST (7)",
+                                                        u"IMOLA (3)",
+                                                        u"IMOLA BRILLO (4)",
+                                                        u"MUNICH ST",
+                                                        u"MALTA ST",
+                                                        u"BALI ST",
+                                                        u"YORK ST",
+                                                        u"YORK BRILLO ST",
+                                                        u"AQUA ST",
+                                                        u"KORFU ST",
+                                                        u"DAKOTA ST",
+                                                        u"DAKAR ST",
+                                                        u"AQUA G.5 ST"};
+
+bool esModeloST(const String& name) {
+    for (const char16_t* model : kModelosST) {
+        if (name == model) return true;
+    }
+    return false;
+}
+
+bool esFrenteST(int16_t front) {
+    return front == 39 || front == 101 || (front >= 307 && front <= 310);
+}
+
+}  // namespace
+
+String construyeMensaje(platform::Platform& platform, bool valAncho, bool valAlto, bool valFondo,
+                        int16_t tipoFuncion) {
+    const auto idiomas = handlers::leeIdiomas();
+    const int rechazados = !valAncho + !valAlto + !valFondo;
+    if (rechazados == 0 || tipoFuncion < 1 || tipoFuncion > 3) return String();
+    const String main =
+        handlers::textoTraducido(idiomas, rechazados == 1 ? u"TR_9015" : u"TR_9014");
+    const String title = handlers::textoTraducido(idiomas, u"TR_9001");
+    String message = main;
+    if (tipoFuncion != 2) message += u"\r\n" + handlers::textoTraducido(idiomas, u"TR_9016");
+    platform.messageBox(message, title, platform::MsgIcon::Information);
+    return message;
+}
+
+void programaST2(platform::Platform& platform, const String& nombreModelo) {
+    const auto idiomas = handlers::leeIdiomas();
+    if (!esModeloST(nombreModelo)) return;
+    const String text = handlers::textoTraducido(idiomas, u"TR_9021");
+    const String caption = handlers::textoTraducido(idiomas, u"TR_9001");
+    platform.messageBox(text, caption, platform::MsgIcon::Information);
+}
+
+void programaST(platform::Platform& platform, int32_t elId) {
+    auto& mv = modVariables();
+    auto& scene = host::use(mv.miScene);
+    const double n = vb::CDbl(scene.ObjectGetInfo(mv.miSessionId, elId, 2));
+    if (n != 31 && n != 32 && n != 33) return;
+    if (!esFrenteST(vb::CInt(scene.ObjectGetInfo(mv.miSessionId, elId, 65)))) return;
+    const String text = handlers::textoCatalogo(u"TR_9021");
+    const String caption = handlers::textoCatalogo(u"TR_9001");
+    platform.messageBox(text, caption, platform::MsgIcon::Information);
+}
+
+}  // namespace rules
