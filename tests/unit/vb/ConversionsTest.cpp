@@ -1,0 +1,189 @@
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <optional>
+
+#include "vb/Conversions.h"
+
+using vb::Variant;
+
+namespace {
+
+// Runs each case with its decimal separator and puts "." back afterwards.
+class WithSeparator : public ::testing::Test {
+  protected:
+    void use(char16_t separator) { vb::setDecimalSeparator(separator); }
+    void TearDown() override { vb::setDecimalSeparator(u'.'); }
+};
+
+struct IntCase {
+    Variant input;
+    char16_t separator;
+    std::optional<int32_t> expected;  // nothing: raises `error`
+    int error;
+};
+
+int errorOf(auto&& call) {
+    try {
+        call();
+    } catch (const vb::RuntimeError& e) {
+        return e.number();
+    }
+    return 0;
+}
+
+using Conversions = WithSeparator;
+
+TEST_F(Conversions, CLngRoundsHalvesToEvenAndChecksText) {
+    const IntCase cases[] = {
+        {2.5, u'.', 2, 0},
+        {3.5, u'.', 4, 0},
+        {-2.5, u'.', -2, 0},
+        {-3.5, u'.', -4, 0},
+        {0.5, u'.', 0, 0},
+        {-0.5, u'.', 0, 0},
+        {2.5000001, u'.', 3, 0},
+        {u"  600.5 ", u'.', 600, 0},
+        {u"601.5", u'.', 602, 0},
+        {u"600,5", u',', 600, 0},
+        {u"&H10", u'.', 16, 0},
+        {u"&HFFFF", u'.', -1, 0},
+        {u"&H10000", u'.', 65536, 0},
+        {u"&O17", u'.', 15, 0},
+        {u"1E3", u'.', 1000, 0},
+        {u"-1.5e1", u'.', -15, 0},
+        {u"+7", u'.', 7, 0},
+        {true, u'.', -1, 0},
+        {false, u'.', 0, 0},
+        {Variant(), u'.', 0, 0},
+        {2147483647.0, u'.', 2147483647, 0},
+        {-2147483648.0, u'.', INT32_MIN, 0},
+        {2147483647.5, u'.', std::nullopt, 6},
+        {-2147483648.6, u'.', std::nullopt, 6},
+        {u"", u'.', std::nullopt, 13},
+        {u" ", u'.', std::nullopt, 13},
+        {u"abc", u'.', std::nullopt, 13},
+        {u"600,5", u'.', std::nullopt, 13},
+        {u"600.5", u',', std::nullopt, 13},
+        {u"1,000", u'.', std::nullopt, 13},
+        {u"12abc", u'.', std::nullopt, 13},
+        {u".", u'.', std::nullopt, 13},
+        {u"1E", u'.', std::nullopt, 13},
+        {u"&H", u'.', std::nullopt, 13},
+        {u"1E400", u'.', std::nullopt, 6},
+        {Variant::null(), u'.', std::nullopt, 94},
+    };
+    for (const auto& c : cases) {
+        use(c.separator);
+        const auto label = ::testing::Message() << "case " << (&c - cases);
+        if (c.expected) {
+            EXPECT_EQ(vb::CLng(c.input), *c.expected) << label;
+        } else {
+            EXPECT_EQ(errorOf([&] { vb::CLng(c.input); }), c.error) << label;
+        }
+    }
+}
+
+TEST_F(Conversions, CIntHasSixteenBitLimits) {
+    const IntCase cases[] = {
+        {32767.0, u'.', 32767, 0},           {-32768.0, u'.', -32768, 0},
+        {32767.4, u'.', 32767, 0},           {-32768.5, u'.', -32768, 0},
+        {u"32766.5", u'.', 32766, 0},        {u"&HFFFF", u'.', -1, 0},
+        {u"&H8000", u'.', -32768, 0},        {int32_t{40000}, u'.', std::nullopt, 6},
+        {u"32767.5", u'.', std::nullopt, 6}, {u"-32768.6", u'.', std::nullopt, 6},
+        {u"&H10000", u'.', std::nullopt, 6}, {u"", u'.', std::nullopt, 13},
+    };
+    for (const auto& c : cases) {
+        use(c.separator);
+        const auto label = ::testing::Message() << "case " << (&c - cases);
+        if (c.expected) {
+            EXPECT_EQ(vb::CInt(c.input), *c.expected) << label;
+        } else {
+            EXPECT_EQ(errorOf([&] { vb::CInt(c.input); }), c.error) << label;
+        }
+    }
+}
+
+TEST_F(Conversions, CDblUsesTheThreadSeparator) {
+    use(u',');
+    EXPECT_EQ(vb::CDbl(Variant(u" 1,25 ")), 1.25);
+    EXPECT_EQ(vb::CDbl(Variant(u"-,5")), -0.5);
+    EXPECT_EQ(vb::CDbl(Variant(u"2,5E2")), 250.0);
+    EXPECT_EQ(errorOf([] { vb::CDbl(Variant(u"1.25")); }), 13);
+    use(u'.');
+    EXPECT_EQ(vb::CDbl(Variant(u"1.25")), 1.25);
+    EXPECT_EQ(vb::CDbl(Variant(u"5.")), 5.0);
+    EXPECT_EQ(vb::CDbl(Variant(int16_t{-3})), -3.0);
+    EXPECT_EQ(vb::CDbl(Variant(u"1E-400")), 0.0);
+}
+
+TEST_F(Conversions, CStrWritesVbText) {
+    struct {
+        Variant input;
+        char16_t separator;
+        vb::String expected;
+    } const cases[] = {
+        {true, u'.', u"True"},
+        {false, u'.', u"False"},
+        {Variant(), u'.', u""},
+        {int16_t{-5}, u'.', u"-5"},
+        {int32_t{600}, u'.', u"600"},
+        {-1.0, u'.', u"-1"},
+        {0.5, u'.', u"0.5"},
+        {0.5, u',', u"0,5"},
+        {10000000.0, u'.', u"10000000"},
+        {0.1 + 0.2, u'.', u"0.3"},
+        {1.0 / 3, u'.', u"0.333333333333333"},
+        {123456789012345.0, u'.', u"123456789012345"},
+        {1e15, u'.', u"1E+15"},
+        {1e-5, u'.', u"1E-05"},
+        {-0.0, u'.', u"0"},
+        {u"as is", u'.', u"as is"},
+    };
+    for (const auto& c : cases) {
+        use(c.separator);
+        EXPECT_EQ(vb::CStr(c.input), c.expected) << "case " << (&c - cases);
+    }
+    EXPECT_EQ(errorOf([] { vb::CStr(Variant::null()); }), 94);
+}
+
+TEST_F(Conversions, CBoolReadsWordsAndNumbers) {
+    EXPECT_TRUE(vb::CBool(Variant(u"True")));
+    EXPECT_TRUE(vb::CBool(Variant(u" true ")));
+    EXPECT_FALSE(vb::CBool(Variant(u"FALSE")));
+    EXPECT_TRUE(vb::CBool(Variant(u"-1")));
+    EXPECT_FALSE(vb::CBool(Variant(u"0")));
+    EXPECT_TRUE(vb::CBool(Variant(0.1)));
+    EXPECT_FALSE(vb::CBool(Variant()));
+    EXPECT_EQ(errorOf([] { vb::CBool(Variant(u"yes")); }), 13);
+    EXPECT_EQ(errorOf([] { vb::CBool(Variant(u"")); }), 13);
+}
+
+TEST(Errors, CarryNumberAndStandardDescription) {
+    const std::pair<int, vb::String> cases[] = {
+        {5, u"Invalid procedure call or argument"},
+        {6, u"Overflow"},
+        {9, u"Subscript out of range"},
+        {13, u"Type mismatch"},
+        {53, u"File not found"},
+        {62, u"Input past end of file"},
+        {75, u"Path/File access error"},
+        {76, u"Path not found"},
+        {91, u"Object variable or With block variable not set"},
+        {94, u"Invalid use of Null"},
+        {429, u"ActiveX component can't create object"},
+        {438, u"Object doesn't support this property or method"},
+        {440, u"Automation error"},
+        {31999, u"Application-defined or object-defined error"},
+    };
+    for (const auto& [number, text] : cases) {
+        const vb::RuntimeError e(number);
+        EXPECT_EQ(e.number(), number);
+        EXPECT_EQ(e.description(), text);
+    }
+    const vb::RuntimeError own(1001, u"Texto propio");
+    EXPECT_EQ(own.description(), u"Texto propio");
+    EXPECT_STREQ(own.what(), "Run-time error '1001': Texto propio");
+}
+
+}  // namespace

@@ -1,0 +1,109 @@
+#include <gtest/gtest.h>
+
+#include "vb/Errors.h"
+#include "vb/Strings.h"
+
+using vb::Compare;
+using vb::String;
+
+namespace {
+
+TEST(InStr, FindsByModeAndStart) {
+    struct {
+        String text, find;
+        Compare mode;
+        int start, expected;
+    } const cases[] = {
+        {u"abcabc", u"c", Compare::Binary, 1, 3},
+        {u"abcabc", u"c", Compare::Binary, 4, 6},
+        {u"abcabc", u"C", Compare::Binary, 1, 0},
+        {u"abcabc", u"C", Compare::Text, 1, 3},
+        {u"Ángulo", u"áNG", Compare::Text, 1, 1},
+        {u"AÑO", u"año", Compare::Text, 1, 1},
+        {u"pingüino", u"ÜI", Compare::Text, 1, 5},
+        {u"Ángulo", u"áNG", Compare::Binary, 1, 0},
+        {u"abc", u"", Compare::Binary, 2, 2},
+        {u"abc", u"x", Compare::Binary, 9, 0},
+        {u"", u"a", Compare::Text, 1, 0},
+        {u"ab", u"abc", Compare::Text, 1, 0},
+        {u"a\r\n--", u"\r\n--", Compare::Text, 1, 2},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(vb::InStr(c.text, c.find, c.mode, c.start), c.expected)
+            << "case " << (&c - cases);
+    EXPECT_THROW(vb::InStr(u"abc", u"a", Compare::Binary, 0), vb::RuntimeError);
+}
+
+TEST(Split, KeepsEmptyPieces) {
+    using Pieces = std::vector<String>;
+    EXPECT_EQ(vb::Split(u"3-4-5", u"-"), (Pieces{u"3", u"4", u"5"}));
+    EXPECT_EQ(vb::Split(u"-a--b-", u"-"), (Pieces{u"", u"a", u"", u"b", u""}));
+    EXPECT_EQ(vb::Split(u"a\r\nb", u"\r\n"), (Pieces{u"a", u"b"}));
+    EXPECT_EQ(vb::Split(u"abc", u","), (Pieces{u"abc"}));
+    EXPECT_EQ(vb::Split(u"abc", u""), (Pieces{u"abc"}));
+    EXPECT_EQ(vb::Split(u"", u","), Pieces{});
+}
+
+int errorOf(auto&& call) {
+    try {
+        call();
+    } catch (const vb::RuntimeError& e) {
+        return e.number();
+    }
+    return 0;
+}
+
+TEST(Cuts, CountUnitsAndRejectBadArguments) {
+    EXPECT_EQ(vb::Mid(u"Ángulo: 5", 9), u"5");
+    EXPECT_EQ(vb::Mid(u"abc", 2, 1), u"b");
+    EXPECT_EQ(vb::Mid(u"abc", 2, 99), u"bc");
+    EXPECT_EQ(vb::Mid(u"abc", 4), u"");
+    EXPECT_EQ(vb::Mid(u"abc", 9, 2), u"");
+    EXPECT_EQ(vb::Mid(u"abc", 1, 0), u"");
+    EXPECT_EQ(errorOf([] { vb::Mid(u"abc", 0); }), 5);
+    EXPECT_EQ(errorOf([] { vb::Mid(u"abc", 0, 1); }), 5);
+    EXPECT_EQ(errorOf([] { vb::Mid(u"abc", 1, -1); }), 5);
+    EXPECT_EQ(vb::Left(u"abc", 2), u"ab");
+    EXPECT_EQ(vb::Left(u"abc", 9), u"abc");
+    EXPECT_EQ(vb::Right(u"abc", 2), u"bc");
+    EXPECT_EQ(vb::Right(u"abc", 9), u"abc");
+    EXPECT_EQ(errorOf([] { vb::Left(u"abc", -1); }), 5);
+    EXPECT_EQ(errorOf([] { vb::Right(u"abc", -1); }), 5);
+    EXPECT_EQ(vb::Len(u"Ángulo: "), 8);
+}
+
+TEST(Case, FoldsAsciiAndLatin1) {
+    EXPECT_EQ(vb::UCase(u"áéíóúñüçÿ abc ß×"), u"ÁÉÍÓÚÑÜÇŸ ABC ß×");
+    EXPECT_EQ(vb::LCase(u"ÁÉÍÓÚÑÜÇŸ ABC Þ÷"), u"áéíóúñüçÿ abc þ÷");
+    EXPECT_TRUE(vb::equalText(u"Puerta Ñ", u"PUERTA ñ"));
+    EXPECT_FALSE(vb::equalText(u"a", u"ab"));
+    EXPECT_FALSE(vb::equalText(u"×", u"÷"));
+}
+
+TEST(Trim, RemovesBlanksOnly) {
+    EXPECT_EQ(vb::Trim(u"  a b  "), u"a b");
+    EXPECT_EQ(vb::LTrim(u"  a "), u"a ");
+    EXPECT_EQ(vb::RTrim(u" a  "), u" a");
+    EXPECT_EQ(vb::Trim(u"\ta\t"), u"\ta\t");
+    EXPECT_EQ(vb::Trim(u"   "), u"");
+}
+
+TEST(Replace, ReplacesEveryOccurrence) {
+    EXPECT_EQ(vb::Replace(u"a-b-c", u"-", u"--"), u"a--b--c");
+    EXPECT_EQ(vb::Replace(u"aaa", u"aa", u"b"), u"ba");
+    EXPECT_EQ(vb::Replace(u"abc", u"", u"x"), u"abc");
+}
+
+TEST(Utf8, RoundTripsAndReplacesBadInput) {
+    const String text = u"Ángulo ñ € \U0001F600";
+    EXPECT_EQ(vb::fromUtf8(vb::toUtf8(text)), text);
+    EXPECT_EQ(vb::fromUtf8("a\xff"
+                           "b"),
+              u"a\uFFFDb");
+    EXPECT_EQ(vb::fromUtf8("\xc3"), u"\uFFFD");            // cut sequence
+    EXPECT_EQ(vb::fromUtf8("\xc0\xaf"), u"\uFFFD\uFFFD");  // overlong
+    EXPECT_EQ(vb::fromUtf8("\xed\xa0\x80"), u"\uFFFD");    // encoded surrogate
+    EXPECT_EQ(vb::toUtf8(String(1, char16_t(0xD800)) + u"x"), "\xef\xbf\xbdx");
+}
+
+}  // namespace
