@@ -1,0 +1,98 @@
+// Checks of objects in sessions: one finished object, and every top-level object of the scene
+// with one summary message.
+#include <optional>
+
+#include "handlers/Catalogo.h"
+#include "handlers/HostCache.h"
+#include "handlers/Plugin.h"
+#include "handlers/Preparacion.h"
+#include "handlers/Textos.h"
+#include "host/Session.h"
+#include "rules/ModVariables.h"
+#include "vb/Conversions.h"
+
+namespace handlers {
+
+namespace {
+
+struct Sesion {
+    int32_t callParams;
+    bool abierta;  // the caller's session is already open
+};
+
+// Checks one object; opens (and ends) a session of its own unless the caller's is open.
+void procesaObjetoSesion(Plugin& plugin, Sesion sesion, int32_t objectId, String& concatenar,
+                         int16_t& laFuncion, bool prepara) {
+    auto& mv = rules::modVariables();
+    std::optional<CachingFactory> factory;
+    std::optional<host::SessionScope> scope;
+    if (!sesion.abierta) {
+        factory.emplace(plugin.env().factory);
+        scope.emplace(*factory,
+                      host::HostSlots{&mv.miAppli, &mv.miScene, &mv.miCatalog, &mv.miSessionId},
+                      sesion.callParams);
+        laFuncion = 3;
+    }
+    if (mv.miSessionId != 0) {
+        mv.dirCatalogos = leeDirCatalogos(plugin.env()) + u"\\";
+        auto& scene = host::use(mv.miScene);
+        mv.medidaAncho = vb::CStr(scene.ObjectGetInfo(mv.miSessionId, objectId, 12));
+        mv.medidaFondo = vb::CStr(scene.ObjectGetInfo(mv.miSessionId, objectId, 13));
+        mv.medidaAlto = vb::CStr(scene.ObjectGetInfo(mv.miSessionId, objectId, 14));
+        cargaCatalogoObjeto(plugin.env(), objectId);
+        preparaReglasDe(objectId, prepara);
+        plugin.procesaObjeto(mv.medidaAncho, mv.medidaAlto, mv.medidaFondo, objectId, concatenar,
+                             laFuncion);
+    }
+    if (scope) scope->endSession();
+}
+
+bool esSuperior(int32_t parent) {
+    return parent == -1 || parent == -2;
+}
+
+}  // namespace
+
+bool Plugin::OnObjectFinishesAfter(int32_t lCallParamsBlock) {
+    String concatenar;
+    int16_t funcion = 3;
+    procesaObjetoSesion(*this, {lCallParamsBlock, false}, -2, concatenar, funcion, true);
+    return true;
+}
+
+bool Plugin::OnSceneGenericFinishesAfter(int32_t lCallParamsBlock) {
+    ultimoCatalogo = -1;
+    String mensaje;
+    auto& mv = rules::modVariables();
+    CachingFactory factory(env_.factory);
+    host::SessionScope scope(factory, {&mv.miAppli, &mv.miScene, &mv.miCatalog, &mv.miSessionId},
+                             lCallParamsBlock);
+    Idiomas idiomas;
+    idiomas.aplicacion = vb::CStr(host::use(mv.miAppli).GetLanguage(mv.miSessionId));
+    idiomas.catalogo = vb::CStr(host::use(mv.miCatalog).GetInfo(mv.miSessionId, 17));
+    idiomas.traducir = idiomas.catalogo != idiomas.aplicacion;
+
+    auto& scene = host::use(mv.miScene);
+    const int32_t n = vb::CLng(scene.SceneGetObjectsNb(mv.miSessionId));
+    for (int32_t i = 1; i <= n; ++i) {
+        const int32_t id = vb::CLng(scene.SceneGetObjectId(mv.miSessionId, i));
+        if (!esSuperior(vb::CLng(scene.ObjectGetParentId(mv.miSessionId, id)))) continue;
+        const Variant number = scene.ObjectGetInfo(mv.miSessionId, id, 2);
+        if (!vb::IsNumeric(number)) continue;
+        const int16_t catalogo = vb::CInt(number);
+        const bool nuevo = ultimoCatalogo != catalogo;
+        ultimoCatalogo = catalogo;
+        int16_t funcion = 4;
+        procesaObjetoSesion(*this, {lCallParamsBlock, true}, id, mensaje, funcion, nuevo);
+    }
+    if (!mensaje.empty()) {
+        const String text = traduce(idiomas, textoCatalogo(u"TR_9017"));
+        const String title = traduce(idiomas, textoCatalogo(u"TR_9001"));
+        env_.platform.messageBox(text + u"\r\n" + mensaje, title, platform::MsgIcon::Information);
+    }
+    scene.ViewRefresh(mv.miSessionId);
+    scope.endSession();
+    return true;
+}
+
+}  // namespace handlers
