@@ -28,7 +28,7 @@ void requireNonNegative(int length) {
 int InStr(const String& text, const String& find, Compare mode, int start) {
     if (start < 1) throw RuntimeError(err::kInvalidCall);
     const auto from = static_cast<size_t>(start - 1);
-    if (from > text.size()) return 0;
+    if (text.empty() || from > text.size()) return 0;  // VB checks these before an empty find
     if (find.empty()) return start;
     if (find.size() > text.size()) return 0;
     for (size_t at = from; at + find.size() <= text.size(); ++at)

@@ -14,19 +14,13 @@ TEST(InStr, FindsByModeAndStart) {
         Compare mode;
         int start, expected;
     } const cases[] = {
-        {u"abcabc", u"c", Compare::Binary, 1, 3},
-        {u"abcabc", u"c", Compare::Binary, 4, 6},
-        {u"abcabc", u"C", Compare::Binary, 1, 0},
-        {u"abcabc", u"C", Compare::Text, 1, 3},
-        {u"Ángulo", u"áNG", Compare::Text, 1, 1},
-        {u"AÑO", u"año", Compare::Text, 1, 1},
-        {u"pingüino", u"ÜI", Compare::Text, 1, 5},
-        {u"Ángulo", u"áNG", Compare::Binary, 1, 0},
-        {u"abc", u"", Compare::Binary, 2, 2},
-        {u"abc", u"x", Compare::Binary, 9, 0},
-        {u"", u"a", Compare::Text, 1, 0},
-        {u"ab", u"abc", Compare::Text, 1, 0},
-        {u"a\r\n--", u"\r\n--", Compare::Text, 1, 2},
+        {u"abcabc", u"c", Compare::Binary, 1, 3},  {u"abcabc", u"c", Compare::Binary, 4, 6},
+        {u"abcabc", u"C", Compare::Binary, 1, 0},  {u"abcabc", u"C", Compare::Text, 1, 3},
+        {u"Ángulo", u"áNG", Compare::Text, 1, 1},  {u"AÑO", u"año", Compare::Text, 1, 1},
+        {u"pingüino", u"ÜI", Compare::Text, 1, 5}, {u"Ángulo", u"áNG", Compare::Binary, 1, 0},
+        {u"abc", u"", Compare::Binary, 2, 2},      {u"abc", u"x", Compare::Binary, 9, 0},
+        {u"", u"a", Compare::Text, 1, 0},          {u"", u"", Compare::Text, 1, 0},
+        {u"ab", u"abc", Compare::Text, 1, 0},      {u"a\r\n--", u"\r\n--", Compare::Text, 1, 2},
     };
     for (const auto& c : cases)
         EXPECT_EQ(vb::InStr(c.text, c.find, c.mode, c.start), c.expected)
