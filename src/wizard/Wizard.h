@@ -10,9 +10,10 @@
 namespace wizard {
 
 using vb::String;
+struct Fabricante;
 
 class Wizard {
-public:
+  public:
     explicit Wizard(handlers::Env& env) : env_(env) {}
 
     bool casoForma(int32_t lCallParamsBlock);
@@ -33,7 +34,16 @@ public:
 
     handlers::Env& env() { return env_; }
 
-private:
+  private:
+    // A cabinet's measures: the catalogue's and the current ones.
+    struct Medidas {
+        String catAncho, catFondo, catAlto, ancho, fondo, alto;
+    };
+    void aplicaCaso(const Fabricante& f, String& ruta);
+    void reglaSoloFondo(const Fabricante& f, const Medidas& m);
+    void reglaAncho(const Fabricante& f, const Medidas& m);
+    void muestra(const String& text);
+
     handlers::Env& env_;
     // The placement path's own host objects and session (not the shared context).
     host::AppliRef wAppli;

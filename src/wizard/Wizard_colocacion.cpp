@@ -1,0 +1,119 @@
+// The placement path: dispatch by catalogue number and the manufacturers' fixed rules, on the
+// Wizard's own host objects and session.
+#include <optional>
+
+#include "handlers/HostCache.h"
+#include "host/Session.h"
+#include "vb/Conversions.h"
+#include "vb/Strings.h"
+#include "wizard/Fabricantes.h"
+#include "wizard/Wizard.h"
+
+namespace wizard {
+
+namespace {
+
+constexpr int32_t kObjetoEvento = -2;
+
+const String kMensajeAncho =
+    u"El mueble no se puede hacer especial en anchura para el modelo seleccionado.\r\n"
+    u"Se colocará el inmediato superior.";
+const String kMensajeFondo =
+    u"El mueble sólo se puede hacer especial en profundidad para el modelo seleccionado\r\n"
+    u"Se colocará el inmediato superior.";
+
+// The catalogue number as an integer; nothing when it is empty, not a number or out of range.
+std::optional<int32_t> numeroCatalogo(const String& numero) {
+    if (numero.empty() || !vb::IsNumeric(numero)) return std::nullopt;
+    try {
+        return vb::CInt(numero);
+    } catch (const vb::RuntimeError&) {
+        return std::nullopt;
+    }
+}
+
+}  // namespace
+
+bool Wizard::OnObjectPlaceAfter(int32_t lCallParamsBlock) {
+    handlers::CachingFactory factory(env_.factory);
+    host::SessionScope scope(factory, {&wAppli, &wScene, &wCatalog, &wSessionId}, lCallParamsBlock);
+    bool result = false;
+    if (scope.isOpen()) {
+        const auto numero =
+            numeroCatalogo(vb::CStr(host::use(wScene).ObjectGetInfo(wSessionId, kObjetoEvento, 2)));
+        // The cases' own results are not used: a case that ran makes the result true.
+        if (numero == 31) casoForma(lCallParamsBlock);
+        if (numero == 32) casoXey(lCallParamsBlock);
+        if (numero == 33) casoVegasa(lCallParamsBlock);
+        result = numero == 31 || numero == 32 || numero == 33;
+    }
+    scope.endSession();
+    return result;
+}
+
+bool Wizard::casoForma(int32_t) {
+    aplicaCaso(fabricanteForma(), rutaForma);
+    return true;
+}
+
+bool Wizard::casoXey(int32_t) {
+    aplicaCaso(fabricanteXey(), rutaXey);
+    return true;
+}
+
+bool Wizard::casoVegasa(int32_t) {
+    aplicaCaso(fabricanteVegasa(), rutaVegasa);
+    return true;
+}
+
+void Wizard::aplicaCaso(const Fabricante& f, String& ruta) {
+    auto& scene = host::use(wScene);
+    auto& catalog = host::use(wCatalog);
+    ruta = env_.platform.moduleFolder() + f.catalogo;
+    catalog.FileLoad(wSessionId, ruta);
+    const auto info = [&](int32_t code) {
+        return vb::CStr(scene.ObjectGetInfo(wSessionId, kObjetoEvento, code));
+    };
+    refObjeto = info(7);
+    const String codigo = vb::Left(refObjeto, f.longitudCodigo);
+    (f.longitudCodigo == 3 ? prefijoRef3 : prefijoRef4) = codigo;
+    modeloPuerta = info(64);
+    const int32_t rank =
+        vb::CLng(catalog.TableGetLineRankFromName(wSessionId, 3, 0, 1, refObjeto, false));
+    if (rank < 1) return;  // no article line: no catalogue measures to hold the cabinet to
+    Medidas m;
+    m.catAncho = vb::CStr(catalog.TableGetLineInfo(wSessionId, 3, 0, rank, 3));
+    m.catFondo = vb::CStr(catalog.TableGetLineInfo(wSessionId, 3, 0, rank, 4));
+    m.catAlto = vb::CStr(catalog.TableGetLineInfo(wSessionId, 3, 0, rank, 5));
+    m.ancho = info(12);
+    m.fondo = info(13);
+    m.alto = info(14);
+    if (enLista(codigo, f.codigos)) return;
+    if (!enLista(modeloPuerta, f.modelos)) {
+        reglaSoloFondo(f, m);
+    } else if (f.reglaAncho) {
+        reglaAncho(f, m);
+    }
+}
+
+void Wizard::reglaSoloFondo(const Fabricante& f, const Medidas& m) {
+    if (m.catAncho == m.ancho && m.catAlto == m.alto) return;
+    auto& scene = host::use(wScene);
+    scene.ObjectSetInfo(wSessionId, kObjetoEvento, m.catAncho, 12);
+    scene.ObjectSetInfo(wSessionId, kObjetoEvento, m.catAlto, 14);
+    muestra(kMensajeFondo);
+    scene.EditReplaceSelection(wSessionId, f.reemplazo, refObjeto, 0, vb::CLng(m.catAncho),
+                               vb::CLng(m.fondo), vb::CLng(m.catAlto), 0);
+}
+
+void Wizard::reglaAncho(const Fabricante& f, const Medidas& m) {
+    if (enLista(modeloPuerta, f.sinReglaAncho) || m.catAncho == m.ancho) return;
+    muestra(kMensajeAncho);
+    host::use(wScene).ObjectSetInfo(wSessionId, kObjetoEvento, m.catAncho, 12);
+}
+
+void Wizard::muestra(const String& text) {
+    env_.platform.messageBox(text, platform::kTituloComponente, platform::MsgIcon::None);
+}
+
+}  // namespace wizard
