@@ -1,7 +1,6 @@
 #include "vb/NumberParse.h"
 
 #include <charconv>
-#include <string>
 
 #include "vb/Errors.h"
 
@@ -9,73 +8,46 @@ namespace vb::detail {
 
 namespace {
 
-// A cursor over the text that collects the ASCII form of the number it reads.
-struct Reader {
-    const String& text;
-    size_t at = 0;
+constexpr uint64_t kBeyond32Bits = 0x100000000ull;
 
-    bool done() const { return at >= text.size(); }
-    char16_t peek() const { return done() ? u'\0' : text[at]; }
-    void skipBlanks() {
-        while (!done() && isBlank(text[at])) ++at;
-    }
-    int digitsInto(std::string& out) {
-        int count = 0;
-        for (; !done() && isDigit(text[at]); ++at, ++count) out.push_back(char(text[at]));
-        return count;
-    }
-};
+bool isDigit(char16_t c) {
+    return c >= u'0' && c <= u'9';
+}
+bool isSign(char16_t c) {
+    return c == u'+' || c == u'-';
+}
+bool isExponent(char16_t c) {
+    return c == u'E' || c == u'e' || c == u'D' || c == u'd';
+}
+
+size_t appendDigits(const String& t, size_t at, std::string& out) {
+    for (; at < t.size() && isDigit(t[at]); ++at) out.push_back(static_cast<char>(t[at]));
+    return at;
+}
 
 int radixDigit(char16_t c, int base) {
-    int d = -1;
+    int d = base;
     if (c >= u'0' && c <= u'9') d = c - u'0';
     if (c >= u'a' && c <= u'f') d = c - u'a' + 10;
     if (c >= u'A' && c <= u'F') d = c - u'A' + 10;
     return d < base ? d : -1;
 }
 
-// "&H1F" / "&O17" after the blanks; the reader ends after the digits.
-std::optional<uint64_t> readRadix(Reader& r) {
-    const char16_t kind = r.text[r.at + 1];
-    const int base = (kind == u'H' || kind == u'h') ? 16 : 8;
-    r.at += 2;
-    uint64_t bits = 0;
-    int count = 0;
-    for (int d; !r.done() && (d = radixDigit(r.peek(), base)) >= 0; ++r.at, ++count) {
-        bits = bits * base + d;
-        if (bits > 0xFFFFFFFFull) bits = 0x100000000ull;  // saturate: beyond any VB integer
-    }
-    if (count == 0) return std::nullopt;
-    return bits;
+// The exponent part at `at` ("E-5"), appended only when it has a digit; returns the end.
+size_t readExponent(const String& t, size_t at, std::string& ascii) {
+    if (at >= t.size() || !isExponent(t[at])) return at;
+    std::string exponent = "e";
+    size_t end = at + 1;
+    if (end < t.size() && isSign(t[end])) exponent.push_back(static_cast<char>(t[end++]));
+    const size_t digitsFrom = end;
+    end = appendDigits(t, end, exponent);
+    if (end == digitsFrom) return at;
+    ascii += exponent;
+    return end;
 }
 
-bool startsRadix(const Reader& r) {
-    if (r.peek() != u'&' || r.at + 1 >= r.text.size()) return false;
-    const char16_t kind = r.text[r.at + 1];
-    return kind == u'H' || kind == u'h' || kind == u'O' || kind == u'o';
-}
-
-// [sign] digits [separator digits] [E|D [sign] digits]; false when no mantissa digit.
-bool readDecimal(Reader& r, char16_t separator, std::string& ascii) {
-    if (r.peek() == u'+' || r.peek() == u'-') {
-        if (r.peek() == u'-') ascii.push_back('-');
-        ++r.at;
-    }
-    int digits = r.digitsInto(ascii);
-    if (r.peek() == separator) {
-        ++r.at;
-        ascii.push_back('.');
-        digits += r.digitsInto(ascii);
-    }
-    if (digits == 0) return false;
-    const char16_t e = r.peek();
-    if (e == u'E' || e == u'e' || e == u'D' || e == u'd') {
-        ++r.at;
-        ascii.push_back('e');
-        if (r.peek() == u'+' || r.peek() == u'-') ascii.push_back(char(r.text[r.at++]));
-        if (r.digitsInto(ascii) == 0) return false;
-    }
-    return true;
+void skipBlanks(const String& t, size_t& at) {
+    while (at < t.size() && isBlank(t[at])) ++at;
 }
 
 }  // namespace
@@ -83,8 +55,40 @@ bool readDecimal(Reader& r, char16_t separator, std::string& ascii) {
 bool isBlank(char16_t c) {
     return c == u' ' || c == u'\t' || c == u'\r' || c == u'\n';
 }
-bool isDigit(char16_t c) {
-    return c >= u'0' && c <= u'9';
+
+std::optional<std::string> readDecimal(const String& t, size_t& at, char16_t separator) {
+    std::string ascii;
+    size_t end = at;
+    if (end < t.size() && isSign(t[end])) {
+        if (t[end] == u'-') ascii.push_back('-');
+        ++end;
+    }
+    const size_t integerFrom = end;
+    end = appendDigits(t, end, ascii);
+    bool anyDigit = end > integerFrom;
+    if (end < t.size() && t[end] == separator) {
+        ascii.push_back('.');
+        const size_t fractionFrom = end + 1;
+        end = appendDigits(t, fractionFrom, ascii);
+        anyDigit = anyDigit || end > fractionFrom;
+    }
+    if (!anyDigit) return std::nullopt;
+    at = readExponent(t, end, ascii);
+    return ascii;
+}
+
+std::optional<uint64_t> readRadix(const String& t, size_t& at) {
+    if (at + 1 >= t.size() || t[at] != u'&') return std::nullopt;
+    const char16_t kind = t[at + 1];
+    const int base = (kind == u'H' || kind == u'h') ? 16 : (kind == u'O' || kind == u'o') ? 8 : 0;
+    if (base == 0) return std::nullopt;
+    uint64_t bits = 0;
+    size_t end = at + 2;
+    for (int d; end < t.size() && (d = radixDigit(t[end], base)) >= 0; ++end)
+        bits = std::min<uint64_t>(bits * base + d, kBeyond32Bits);
+    if (end == at + 2) return std::nullopt;
+    at = end;
+    return bits;
 }
 
 double decimalValue(const std::string& ascii) {
@@ -92,9 +96,9 @@ double decimalValue(const std::string& ascii) {
     const char* first = ascii.data();
     const auto result = std::from_chars(first, first + ascii.size(), value);
     if (result.ec == std::errc::result_out_of_range) {
-        // Too small rounds to zero, as VB does; too large overflows.
         const auto e = ascii.find('e');
-        if (e != std::string::npos && ascii.find('-', e) != std::string::npos) return 0;
+        const bool tiny = e != std::string::npos && ascii.find('-', e) != std::string::npos;
+        if (tiny) return 0;  // VB rounds what a Double cannot hold to zero
         throw RuntimeError(err::kOverflow);
     }
     return value;
@@ -102,29 +106,24 @@ double decimalValue(const std::string& ascii) {
 
 double radixValue(uint64_t bits) {
     if (bits <= 0xFFFF) return static_cast<int16_t>(static_cast<uint16_t>(bits));
-    if (bits <= 0xFFFFFFFFull) return static_cast<int32_t>(static_cast<uint32_t>(bits));
+    if (bits < kBeyond32Bits) return static_cast<int32_t>(static_cast<uint32_t>(bits));
     throw RuntimeError(err::kOverflow);
 }
 
 std::optional<ParsedNumber> parseNumber(const String& text, char16_t separator) {
-    Reader r{text};
-    r.skipBlanks();
+    size_t at = 0;
+    skipBlanks(text, at);
     ParsedNumber number;
-    if (startsRadix(r)) {
-        auto bits = readRadix(r);
-        if (!bits) return std::nullopt;
+    if (auto bits = readRadix(text, at)) {
         number.radix = true;
         number.bits = *bits;
+    } else if (auto ascii = readDecimal(text, at, separator)) {
+        number.value = decimalValue(*ascii);
     } else {
-        std::string ascii;
-        if (!readDecimal(r, separator, ascii)) return std::nullopt;
-        r.skipBlanks();
-        if (!r.done()) return std::nullopt;
-        number.value = decimalValue(ascii);
-        return number;
+        return std::nullopt;
     }
-    r.skipBlanks();
-    if (!r.done()) return std::nullopt;
+    skipBlanks(text, at);
+    if (at != text.size()) return std::nullopt;
     return number;
 }
 
