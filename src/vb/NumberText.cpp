@@ -8,7 +8,9 @@
 namespace vb {
 
 String numberText(double d) {
-    if (d == 0 || !std::isfinite(d)) return d == 0 ? u"0" : (std::isnan(d) ? u"NaN" : u"Overflow");
+    if (d == 0) return u"0";               // also -0
+    if (std::isnan(d)) return u"-1.#IND";  // VB's texts for values it cannot compute with
+    if (std::isinf(d)) return d > 0 ? u"1.#INF" : u"-1.#INF";
     char buffer[64];
     const auto result =
         std::to_chars(buffer, buffer + sizeof buffer, d, std::chars_format::general, 15);
