@@ -38,7 +38,7 @@ Int toInteger(double d) {
 }
 
 void rejectNull(const Variant& v) {
-    if (v.isNull()) throw RuntimeError(94);
+    if (v.isNull()) throw RuntimeError(err::kInvalidUseOfNull);
 }
 
 }  // namespace
@@ -55,7 +55,7 @@ String CStr(const Variant& v) {
         case VarType::Empty:
             return String();
         case VarType::Null:
-            throw RuntimeError(94);
+            throw RuntimeError(err::kInvalidUseOfNull);
         case VarType::Boolean:
             return v.boolean() ? u"True" : u"False";
         case VarType::Integer:
@@ -75,7 +75,7 @@ double CDbl(const Variant& v) {
         case VarType::Empty:
             return 0;
         case VarType::Null:
-            throw RuntimeError(94);
+            throw RuntimeError(err::kInvalidUseOfNull);
         case VarType::Boolean:
             return v.boolean() ? -1 : 0;
         case VarType::Integer:

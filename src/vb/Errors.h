@@ -18,6 +18,7 @@ constexpr int kInputPastEnd = 62;
 constexpr int kPathFileAccess = 75;
 constexpr int kPathNotFound = 76;
 constexpr int kObjectNotSet = 91;
+constexpr int kInvalidUseOfNull = 94;
 constexpr int kCantCreateObject = 429;
 constexpr int kNoSuchMember = 438;
 constexpr int kAutomation = 440;
