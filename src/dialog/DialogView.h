@@ -6,7 +6,7 @@ namespace dialog {
 class frmEspEnc;
 
 class DialogView {
-public:
+  public:
     virtual ~DialogView() = default;
     // Shows the form modally and returns when it has been unloaded.
     virtual void showModal(frmEspEnc& form) = 0;

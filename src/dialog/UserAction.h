@@ -45,7 +45,7 @@ struct Snapshot {
 
 // Receives what happens to the dialog, for the transcript.
 class DialogObserver {
-public:
+  public:
     virtual ~DialogObserver() = default;
     virtual void dialogShown(const String& title) = 0;
     virtual void snapshot(const Snapshot& snapshot) = 0;

@@ -1,0 +1,121 @@
+// The walk of the edited object's component tree that fills the five lists, the recess rows
+// and the diagonal component.
+#include <algorithm>
+
+#include "dialog/Lectura.h"
+#include "dialog/frmEspEnc.h"
+#include "vb/Conversions.h"
+#include "vb/Strings.h"
+
+namespace dialog {
+
+using host::use;
+using vb::CStr;
+
+namespace {
+
+constexpr int kListaDiagonal = 5;
+constexpr size_t kProfundidadMaxima = 256;  // no host answer may exhaust the stack
+constexpr int16_t kMaximoEntero = 32767;
+
+// List of a component by its code: 0..4, kListaDiagonal, or -1 when it is not listed.
+int listaDeCodigo(const String& code) {
+    static const char16_t* const marcas[] = {u"CS_", u"FR_", u"EQ_", u"O_", u"_CJ", u"_DG"};
+    for (int l = 0; l < 6; ++l)
+        if (vb::InStr(code, marcas[l], vb::Compare::Text) > 0) return l;
+    return -1;
+}
+
+String sangria(int16_t nivel) {
+    static const char16_t* const sangrias[] = {u"", u"==>", u"  ==>", u"      ==>", u"        ==>"};
+    return sangrias[std::clamp<int>(nivel, 0, 4)];
+}
+
+bool esUnoODos(const vb::Variant& v) {
+    if (!vb::IsNumeric(v)) return false;
+    double d = vb::CDbl(v);
+    return d == 1 || d == 2;
+}
+
+}  // namespace
+
+void frmEspEnc::recorreHijos(int32_t id, bool& tieneHijos, std::array<int16_t, 5>& cuentas,
+                             int16_t& nivel) {
+    std::vector<int32_t> ancestros;
+    recorreDesde(id, tieneHijos, cuentas, nivel, ancestros);
+}
+
+void frmEspEnc::recorreDesde(int32_t id, bool& tieneHijos, std::array<int16_t, 5>& cuentas,
+                             int16_t& nivel, std::vector<int32_t>& ancestros) {
+    auto& scene = use(mv_.miScene);
+    ancestros.push_back(id);
+    int32_t n = vb::CLng(scene.ObjectGetChildrenNb(mv_.miSessionId, id, 0));
+    for (int32_t i = 1; i <= n; ++i) {
+        int32_t child = vb::CLng(scene.ObjectGetChildId(mv_.miSessionId, id, i, 0));
+        if (child != -1) clasificaHijo(child, tieneHijos, cuentas, nivel);
+        if (!tieneHijos) continue;
+        // A host answer that repeats an ancestor is a cycle: not walked again below it.
+        bool ciclo = std::find(ancestros.begin(), ancestros.end(), child) != ancestros.end();
+        if (ciclo || ancestros.size() >= kProfundidadMaxima) continue;
+        if (nivel < kMaximoEntero) ++nivel;
+        recorreDesde(child, tieneHijos, cuentas, nivel, ancestros);
+    }
+    if (!tieneHijos && nivel > 0) --nivel;
+    ancestros.pop_back();
+}
+
+void frmEspEnc::clasificaHijo(int32_t child, bool& tieneHijos, std::array<int16_t, 5>& cuentas,
+                              int16_t& nivel) {
+    auto& scene = use(mv_.miScene);
+    int32_t& sid = mv_.miSessionId;
+    String code = CStr(scene.ObjectGetInfo(sid, child, 4));
+    bool fitL = bandera(scene.ObjectGetInfo(sid, child, 15));
+    bool fitP = bandera(scene.ObjectGetInfo(sid, child, 16));
+    bool fitH = bandera(scene.ObjectGetInfo(sid, child, 17));
+    String script = CStr(scene.ObjectGetScript(sid, child));
+    bool fits =
+        limitesScript(script, fitL, fitH, fitP, mv_.medidaAncho, mv_.medidaAlto, mv_.medidaFondo);
+    if (nivel == 0) {
+        for (size_t k = 0; k < mv_.prefijosEsp.size() && k < mv_.hayHijoEsp.size(); ++k)
+            if (!mv_.prefijosEsp[k].empty() &&
+                vb::InStr(code, mv_.prefijosEsp[k], vb::Compare::Text) > 0)
+                mv_.hayHijoEsp[k] = true;
+    }
+    if (fits && vb::equalText(CStr(scene.ObjectGetInfo(sid, child, 58)), u"1")) {
+        int lista = listaDeCodigo(code);
+        if (lista == kListaDiagonal) {
+            ImageDiagonal[0].Enabled = ImageDiagonal[1].Enabled = true;
+            idDiagonal = child;
+        } else if (lista >= 0 && cuentas[lista] < kMaximoEntero - 1) {
+            listaComponente(child, lista, cuentas, nivel, script);
+        }
+    }
+    tieneHijos = vb::CLng(scene.ObjectGetChildrenNb(sid, child, 1)) > 0;
+}
+
+// Adds a listed component to its list (and, for a recess, its record and rows).
+void frmEspEnc::listaComponente(int32_t child, int lista, std::array<int16_t, 5>& cuentas,
+                                int16_t nivel, const String& script) {
+    auto& scene = use(mv_.miScene);
+    int32_t& sid = mv_.miSessionId;
+    int16_t nL = ++cuentas[lista];
+    idsListas[lista].resize(nL + 1);
+    idsListas[lista][nL - 1] = child;
+    if (lista == 4) cargaDatosEncastre(child, nL);
+    String texto = CStr(scene.ObjectGetInfo(sid, child, 5));
+    if (esUnoODos(scene.ObjectGetInfo(sid, child, 11)))
+        texto += u" " + CStr(scene.ObjectGetInfo(sid, child, 10));
+    ListBox& caja = listComponentes[lista];
+    caja.entries.push_back({sangria(nivel) + texto, false});
+    if (vb::equalText(CStr(scene.ObjectGetInfo(sid, child, 59)), u"1"))
+        caja.entries[nL - 1].selected = true;
+    if (lista != 4) return;
+    int16_t i = nL - 1;
+    if (static_cast<size_t>(i) < encastres.size() &&
+        !vb::equalText(encastres[i].titulo, kNoDisponible))
+        encastres[i].titulo = texto;
+    creaFilasEncastre(texto, i, script);
+    habilitaFilasEncastre(i, caja.entries[i].selected);
+}
+
+}  // namespace dialog
