@@ -1,0 +1,110 @@
+// Catalogue directory from SPACE.INI (section order, 63-character cut), the text reader, and
+// the search of the catalogue file in sub-folders.
+#include <gtest/gtest.h>
+
+#include "../rules/FakeHost.h"
+#include "handlers/Catalogo.h"
+#include "rules/ModVariables.h"
+
+namespace {
+
+using vb::String;
+
+struct IniCase {
+    const char* name;
+    std::map<String, String> sections;
+    String expected;
+};
+
+const IniCase kIniCases[] = {
+    {"RemoteOnly", {{u"Remote", u"R:\\Cat"}}, u"R:\\Cat"},
+    {"LocalBeatsInSitu", {{u"InSitu", u"I:\\Cat"}, {u"Local", u"L:\\Cat"}}, u"L:\\Cat"},
+    {"InSituBeatsRemote", {{u"InSitu", u"I:\\Cat"}, {u"Remote", u"R:\\Cat"}}, u"I:\\Cat"},
+    {"None", {}, u""},
+    {"Exactly63", {{u"Local", String(63, u'a')}}, String(63, u'a')},
+    {"LongerIsCut", {{u"Local", String(70, u'b')}}, String(63, u'b')},
+};
+
+class Ini : public testing::TestWithParam<IniCase> {};
+
+TEST_P(Ini, SectionOrderAndCut) {
+    fake::Platform platform;
+    fake::Factory factory;
+    handlers::Env env{platform, factory};
+    platform.profile = GetParam().sections;
+    EXPECT_EQ(handlers::leeDirCatalogos(env), GetParam().expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(Cases, Ini, testing::ValuesIn(kIniCases),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+struct TextCase {
+    const char* name;
+    std::vector<String> lines;
+    String expected;
+};
+
+const TextCase kTextCases[] = {
+    {"LocalFirstLine", {u"[Local]", u"CatalogsDir=C:\\Cat", u"Other=1"}, u"C:\\Cat"},
+    {"LaterRemoteReplaces",
+     {u"[Local]", u"CatalogsDir=C:\\Cat", u"[Remote]", u"CatalogsDir=D:\\Cat"},
+     u"D:\\Cat"},
+    {"ValueStopsAtNextEquals", {u"[Remote]", u"CatalogsDir=C:\\A=B"}, u"C:\\A"},
+    {"NoValueEndsAtEndOfFile", {u"[Local]", u"Other=1"}, u""},
+    {"HeaderAtEndOfFile", {u"x", u"[Local]"}, u""},
+    {"OnlyTheLineAfterTheHeader", {u"[Local]", u"Other=1", u"CatalogsDir=C:\\Cat"}, u""},
+    {"EmptyFile", {}, u""},
+};
+
+class IniTexto : public testing::TestWithParam<TextCase> {};
+
+TEST_P(IniTexto, Reads) {
+    fake::Platform platform;
+    fake::Factory factory;
+    handlers::Env env{platform, factory};
+    platform.textLines = GetParam().lines;
+    EXPECT_EQ(handlers::leeDirCatalogosTexto(env), GetParam().expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(Cases, IniTexto, testing::ValuesIn(kTextCases),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+class Busqueda : public testing::Test {
+  protected:
+    void SetUp() override {
+        mv = rules::ModVariables{};
+        mv.miScene = factory.scene;
+        mv.miCatalog = factory.catalog;
+        mv.miSessionId = 1;
+        mv.dirCatalogos = u"C:\\Cat\\";
+        factory.scene->objects[100].info[0] = u"forma10";
+        platform.listings[u"C:\\Cat\\"] = {{u".", true}, {u"..", true}, {u"A", true},
+                                           {u"B", true}, {u"C", true},  {u"forma10.txt", false}};
+    }
+    String carga() { return handlers::cargaCatalogoObjeto(env, -2).ruta; }
+    rules::ModVariables& mv = rules::modVariables();
+    fake::Platform platform;
+    fake::Factory factory;
+    handlers::Env env{platform, factory};
+};
+
+TEST_F(Busqueda, DirectPathFirst) {
+    platform.files[u"C:\\Cat\\forma10.cat"] = 10;
+    platform.files[u"C:\\Cat\\B\\forma10.cat"] = 10;
+    EXPECT_EQ(carga(), u"C:\\Cat\\forma10.cat");
+}
+
+TEST_F(Busqueda, LaterSubFolderWinsAndEmptyFilesAreNotTaken) {
+    platform.files[u"C:\\Cat\\A\\forma10.cat"] = 10;
+    platform.files[u"C:\\Cat\\B\\forma10.cat"] = 10;
+    platform.files[u"C:\\Cat\\C\\forma10.cat"] = 0;
+    EXPECT_EQ(carga(), u"C:\\Cat\\B\\forma10.cat");
+    EXPECT_EQ(factory.catalog->loads, (std::vector<String>{u"C:\\Cat\\B\\forma10.cat"}));
+}
+
+TEST_F(Busqueda, NotFoundStillLoadsTheDirectPath) {
+    EXPECT_EQ(carga(), u"C:\\Cat\\forma10.cat");
+    EXPECT_EQ(factory.catalog->loads.size(), 1u);
+}
+
+}  // namespace
