@@ -1,0 +1,17 @@
+#pragma once
+// The dialog view of one call: plays the call's user actions and reports to the observer.
+// Null while this build has no headless view (the plug-in then has no dialog to show).
+#include <memory>
+#include <vector>
+
+#include "dialog/DialogView.h"
+#include "dialog/UserAction.h"
+#include "platform/Platform.h"
+
+namespace sim {
+
+std::unique_ptr<dialog::DialogView> makeDialogView(const std::vector<dialog::UserAction>& actions,
+                                                   dialog::DialogObserver& observer,
+                                                   platform::Platform& platform);
+
+}  // namespace sim

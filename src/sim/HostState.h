@@ -1,0 +1,48 @@
+#pragma once
+// What the simulated host knows while the plug-in runs: the world, the call in progress, the
+// sessions opened so far, the current catalogue and the files the plug-in created.
+#include <cstdint>
+#include <unordered_set>
+#include <vector>
+
+#include "sim/Recorder.h"
+#include "sim/Scenario.h"
+
+namespace sim {
+
+struct CurrentCall {
+    int32_t block = 0;  // the call-parameter block handed to the plug-in
+    const CallSpec* spec = nullptr;
+};
+
+class HostState {
+  public:
+    HostState(World& world, Recorder& recorder) : world(world), recorder(recorder) {}
+
+    World& world;
+    Recorder& recorder;
+    CurrentCall call;
+    int32_t sessionsOpened = 0;
+    const CatalogData* currentCatalog = nullptr;  // made current by FileLoad, for the whole world
+
+    // -2 is the call's object; any other id is itself.
+    int32_t resolve(int32_t id) const;
+    // The window handle of the host's attribute dialog during the current call.
+    int32_t attributeDialogHandle() const { return kDialogHandleBase + call.block; }
+    const String* attributeDialogText(int32_t handle, int32_t controlId) const;
+
+    void noteCreatedFile(const String& path);
+    const std::vector<String>& createdFiles() const { return createdFiles_; }
+
+    // {"100": {"12": "600"}, ...}: every object's information, depth first.
+    Json objectsJson() const;
+    Json filesJson() const;
+
+    static constexpr int32_t kDialogHandleBase = 0x150000;
+
+  private:
+    std::vector<String> createdFiles_;
+    std::unordered_set<String> createdKeys_;
+};
+
+}  // namespace sim
