@@ -1,0 +1,33 @@
+#pragma once
+// The dialog without windows: shows the form modally inside the handler's call and plays a
+// scenario's user actions against it, reporting what happens to an observer.
+#include <vector>
+
+#include "dialog/DialogView.h"
+#include "dialog/UserAction.h"
+#include "platform/Platform.h"
+
+namespace dialog {
+
+class HeadlessView : public DialogView {
+  public:
+    HeadlessView(const std::vector<UserAction>& actions, DialogObserver& observer,
+                 platform::Platform& platform);
+
+    // Form_Load, dialogShown, then the actions. A dialog still open when they run out is
+    // closed as by its close box ("endOfActions"); a runtime error closes it ("error") and
+    // goes on to the handler's error trap.
+    void showModal(frmEspEnc& form) override;
+
+  private:
+    void ejecuta(frmEspEnc& form, const UserAction& action);
+    void escribe(frmEspEnc& form, const UserAction& action);
+    void pulsaLista(frmEspEnc& form, const UserAction& action);
+    void desplaza(frmEspEnc& form, const UserAction& action);
+
+    std::vector<UserAction> actions_;
+    DialogObserver& observer_;
+    platform::Platform& platform_;
+};
+
+}  // namespace dialog

@@ -1,0 +1,69 @@
+// The components handlers of `Wizard`: the special-editing dialog for catalogues 31 to 33.
+#include "dialog/Apertura.h"
+#include "handlers/Catalogo.h"
+#include "host/Factory.h"
+#include "rules/ModVariables.h"
+#include "vb/Conversions.h"
+#include "wizard/Wizard.h"
+
+namespace wizard {
+
+namespace {
+
+// The catalogue number names one of the three manufacturers.
+bool esCatalogoPropio(const vb::Variant& numero) {
+    if (!vb::IsNumeric(numero)) return false;
+    double n = vb::CDbl(numero);
+    return n == 31 || n == 32 || n == 33;
+}
+
+// The work of an open session; true when the object is not of the three catalogues.
+bool abreDialogo(Wizard& w, handlers::Env& env) {
+    auto& mv = rules::modVariables();
+    auto& scene = host::use(mv.miScene);
+    mv.dirCatalogos = handlers::leeDirCatalogosTexto(env);
+    mv.medidaAncho = vb::CStr(scene.ObjectGetInfo(mv.miSessionId, -2, 12));
+    mv.medidaFondo = vb::CStr(scene.ObjectGetInfo(mv.miSessionId, -2, 13));
+    mv.medidaAlto = vb::CStr(scene.ObjectGetInfo(mv.miSessionId, -2, 14));
+    String ruta =
+        mv.dirCatalogos + u"\\" + vb::CStr(scene.ObjectGetInfo(mv.miSessionId, -2, 0)) + u".cat";
+    if (!esCatalogoPropio(scene.ObjectGetInfo(mv.miSessionId, -2, 2))) return true;
+    if (!vb::CBool(host::use(mv.miCatalog).FileLoad(mv.miSessionId, ruta))) {
+        dialog::avisaCatalogoAusente(env.platform, ruta);
+        return false;
+    }
+    w.InicEsp();
+    w.GenModEsp(mv.miSessionId, mv.miAppli, mv.miScene, mv.miCatalog);
+    w.GenExcepciones(mv.miSessionId, mv.miAppli, mv.miScene, mv.miCatalog);
+    w.InicEspMod(mv.miSessionId, mv.miCatalog);
+    dialog::muestraDialogo(env);
+    return false;
+}
+
+}  // namespace
+
+bool Wizard::OnObjectComponentsBefore(int32_t lCallParamsBlock) {
+    auto& mv = rules::modVariables();
+    dialog::LiberaObjetos libera;
+    bool resultado = false;
+    try {
+        mv.numTiposEsp = 7;
+        mv.miAppli = host::createAppli(env_.factory);
+        mv.miScene = host::createScene(env_.factory);
+        mv.miCatalog = host::createCatalog(env_.factory);
+        int32_t bloque = lCallParamsBlock;
+        mv.miSessionId = vb::CLng(host::use(mv.miAppli).StartSessionFromCallParams(bloque));
+        if (mv.miSessionId != 0) resultado = abreDialogo(*this, env_);
+    } catch (const vb::RuntimeError& error) {
+        dialog::avisaErrorComponentes(env_.platform, error);
+        resultado = true;
+    }
+    if (mv.miAppli) host::use(mv.miAppli).EndSession(mv.miSessionId);
+    return resultado;
+}
+
+bool Wizard::ObjectWizard(int32_t lCallParamsBlock) {
+    return OnObjectComponentsBefore(lCallParamsBlock);
+}
+
+}  // namespace wizard
