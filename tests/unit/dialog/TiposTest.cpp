@@ -1,0 +1,129 @@
+// The special types: the click table with its combined types, and "Medidas por defecto".
+#include <gtest/gtest.h>
+
+#include <set>
+#include <string>
+#include <vector>
+
+#include "FakeDialogo.h"
+
+namespace {
+
+struct ClickCase {
+    std::string markers;      // types whose marker child exists, as digits
+    std::vector<int> clicks;  // types clicked, in order
+    std::string selected;     // types selected afterwards, as digits
+    std::string boxes;        // measure boxes enabled afterwards (0 width, 1 height, 2 depth)
+};
+
+std::string seleccionados(dialog::frmEspEnc& f) {
+    std::string s;
+    for (int k = 0; k < 7; ++k)
+        if (f.estaSeleccionado(k)) s += char('0' + k);
+    return s;
+}
+
+std::string cajas(dialog::frmEspEnc& f) {
+    std::string s;
+    for (int m = 0; m < 3; ++m)
+        if (f.TextMedEsp[m].Enabled) s += char('0' + m);
+    return s;
+}
+
+TEST(ClickTipos, FollowsTheCombinedTypeRules) {
+    const ClickCase cases[] = {
+        {"0123456", {0}, "0", "0"},
+        {"0123456", {0, 1}, "13", "1"},  // ANCHO_ALTO selected, ANCHO unselected
+        {"0123456", {0, 0}, "", ""},
+        {"0123456", {6}, "", ""},            // only recolours its caption
+        {"0123456", {0, 1, 2}, "256", "2"},  // pairs step up into the triple
+        {"012", {0, 1}, "01", "01"},         // no combined marker: plain toggles
+        {"0123456", {3}, "3", "01"},
+        {"0123456", {0, 3}, "3", "01"},  // the pair replaces its single type
+        {"0123456", {3, 3}, "", ""},
+        {"0123456", {3, 0}, "", ""},  // a part clicked inside its pair
+        {"0123456", {4, 2}, "", ""},
+        {"0123456", {5, 1}, "", ""},
+        {"0123456", {3, 2}, "26", "2"},  // pair + rest -> triple
+        {"0123456", {4, 1}, "16", "1"},
+        {"0123456", {5, 0}, "06", "0"},
+        {"", {0}, "0", "0"},
+    };
+    for (const auto& c : cases) {
+        fakedlg::Banco banco;
+        auto& mv = rules::modVariables();
+        for (char d : c.markers) mv.idsHijosEsp[d - '0'] = 100 + (d - '0');
+        for (int m = 0; m < 3; ++m) banco.f().TextMedEsp[m].Enabled = false;
+        for (int k : c.clicks) banco.f().PictureEsp_Click(k);
+        std::string trace = "markers " + c.markers + " clicks";
+        for (int k : c.clicks) trace += " " + std::to_string(k);
+        SCOPED_TRACE(trace);
+        EXPECT_EQ(seleccionados(banco.f()), c.selected);
+        EXPECT_EQ(cajas(banco.f()), c.boxes);
+        for (int k = 0; k < 7; ++k) {
+            if (banco.f().estaSeleccionado(k)) {
+                EXPECT_EQ(banco.f().EtiqCuadEsp[k].ForeColor, dialog::kRojo) << "type " << k;
+            }
+        }
+        if (c.clicks.back() == 6) {
+            EXPECT_EQ(banco.f().EtiqCuadEsp[6].ForeColor, dialog::kRojo);
+        }
+    }
+}
+
+TEST(MedidasPorDefecto, PutsTheCatalogueMeasuresBackAndClearsEverySelection) {
+    fakedlg::Banco banco;
+    auto& f = banco.f();
+    rules::modVariables().idsHijosEsp.fill(7);
+    f.medidasDefecto = {u"600", u"720", u"560", u""};
+    f.PictureEsp_Click(0);
+    f.PictureEsp_Click(5);
+    f.TextMedEsp[0].Text = u"650";
+    f.estadoCambios = u"0101";
+    f.BotonCnlMed_Click();
+    EXPECT_EQ(seleccionados(f), "");
+    EXPECT_EQ(cajas(f), "");
+    EXPECT_EQ(f.TextMedEsp[0].Text, u"600");
+    EXPECT_EQ(f.TextMedEsp[1].Text, u"720");
+    EXPECT_EQ(f.TextMedEsp[2].Text, u"560");
+    EXPECT_EQ(f.estadoCambios, u"0101");
+    for (int k = 0; k < 7; ++k) EXPECT_EQ(f.EtiqCuadEsp[k].ForeColor, dialog::kAzulMarino);
+}
+
+struct InicialCase {
+    std::string markers;
+    std::vector<bool> distinto;  // width, height, depth differ from the catalogue
+    std::string selected;
+};
+
+TEST(SeleccionInicial, PicksTheTypesOfTheChangedMeasures) {
+    const InicialCase cases[] = {
+        {"0123456", {true, false, false}, "0"},
+        {"123456", {true, false, false}, ""},
+        {"0123456", {true, true, false}, "3"},
+        {"01", {true, true, false}, "01"},
+        {"1", {true, true, false}, "1"},
+        {"", {true, false, true}, "02"},  // markers of the singles not consulted
+        {"", {false, true, true}, "12"},
+        {"0123456", {true, true, true}, "6"},
+        {"012345", {true, true, true}, "05"},
+        {"01234", {true, true, true}, "14"},
+        {"0123", {true, true, true}, "23"},
+        {"", {true, true, true}, "012"},
+        {"0123456", {false, false, false}, ""},
+    };
+    for (const auto& c : cases) {
+        fakedlg::Banco banco;
+        auto& f = banco.f();
+        for (char d : c.markers) rules::modVariables().idsHijosEsp[d - '0'] = 50;
+        f.medidasDefecto = {u"600", u"720", u"560", u""};
+        f.medidasActuales = {c.distinto[0] ? u"650" : u"600", c.distinto[1] ? u"700" : u"720",
+                             c.distinto[2] ? u"500" : u"560", u""};
+        f.seleccionInicial();
+        SCOPED_TRACE("markers " + c.markers);
+        EXPECT_EQ(seleccionados(f), c.selected);
+        for (int m = 0; m < 3; ++m) EXPECT_EQ(f.TextMedEsp[m].Enabled, c.distinto[m]);
+    }
+}
+
+}  // namespace
