@@ -1,7 +1,6 @@
 #include "handlers/HostCache.h"
 
 #include <map>
-#include <optional>
 #include <tuple>
 
 #include "vb/Conversions.h"
@@ -101,44 +100,51 @@ class CachingScene : public host::Scene {
     std::map<std::tuple<int32_t, int32_t, int32_t, int16_t>, Variant> childId_;
 };
 
+// Reads of each catalogue are kept apart: loading catalogue A, then B, then A again answers A's
+// reads from memory, since a catalogue does not change within one call.
 class CachingCatalog : public host::Catalog {
   public:
     explicit CachingCatalog(host::CatalogRef inner) : in_(std::move(inner)) {}
 
     Variant FileLoad(int32_t& s, const String& path) override {
         Variant answer = in_->FileLoad(s, path);
-        // The same catalogue loaded again answers as before; anything else starts afresh.
         const bool loaded = answer.type() == vb::VarType::Boolean && answer.boolean();
-        if (!loaded || !vigente_ || *vigente_ != path) olvida();
-        if (loaded) vigente_ = path;
+        if (loaded) {
+            actual_ = &porRuta_[path];
+        } else {
+            // Which catalogue is current now is the host's business: ask it afresh.
+            sinRuta_ = Memo{};
+            actual_ = &sinRuta_;
+        }
         return answer;
     }
     Variant GetInfo(int32_t& s, int32_t code) override {
-        return recuerda(getInfo_, std::tuple(s, code), [&] { return in_->GetInfo(s, code); });
+        return recuerda(actual_->getInfo, std::tuple(s, code),
+                        [&] { return in_->GetInfo(s, code); });
     }
     Variant DicoGetStringFromKey(int32_t& s, const String& text, const String& lang) override {
-        return recuerda(dico_, std::tuple(s, text, lang),
+        return recuerda(actual_->dico, std::tuple(s, text, lang),
                         [&] { return in_->DicoGetStringFromKey(s, text, lang); });
     }
     Variant TableGetLinesNb(int32_t& s, int32_t table, int16_t zero) override {
-        return recuerda(linesNb_, std::tuple(s, table, zero),
+        return recuerda(actual_->linesNb, std::tuple(s, table, zero),
                         [&] { return in_->TableGetLinesNb(s, table, zero); });
     }
     Variant TableGetLineRankFromCode(int32_t& s, int32_t table, int32_t zero, int16_t selector,
                                      const String& code, bool flag) override {
-        return recuerda(byCode_, std::tuple(s, table, zero, selector, code, flag), [&] {
+        return recuerda(actual_->byCode, std::tuple(s, table, zero, selector, code, flag), [&] {
             return in_->TableGetLineRankFromCode(s, table, zero, selector, code, flag);
         });
     }
     Variant TableGetLineRankFromName(int32_t& s, int32_t table, int32_t zero, int16_t selector,
                                      const String& name, bool flag) override {
-        return recuerda(byName_, std::tuple(s, table, zero, selector, name, flag), [&] {
+        return recuerda(actual_->byName, std::tuple(s, table, zero, selector, name, flag), [&] {
             return in_->TableGetLineRankFromName(s, table, zero, selector, name, flag);
         });
     }
     Variant TableGetLineInfo(int32_t& s, int32_t table, int32_t zero, int32_t rank,
                              int16_t column) override {
-        return recuerda(lineInfo_, std::tuple(s, table, zero, rank, column),
+        return recuerda(actual_->lineInfo, std::tuple(s, table, zero, rank, column),
                         [&] { return in_->TableGetLineInfo(s, table, zero, rank, column); });
     }
     Variant FileExportResource(int32_t& s, int32_t rank, const String& path) override {
@@ -146,25 +152,20 @@ class CachingCatalog : public host::Catalog {
     }
 
   private:
-    void olvida() {
-        vigente_.reset();
-        getInfo_.clear();
-        dico_.clear();
-        linesNb_.clear();
-        byCode_.clear();
-        byName_.clear();
-        lineInfo_.clear();
-    }
-
     using RankKey = std::tuple<int32_t, int32_t, int32_t, int16_t, String, bool>;
+    struct Memo {
+        std::map<std::tuple<int32_t, int32_t>, Variant> getInfo;
+        std::map<std::tuple<int32_t, String, String>, Variant> dico;
+        std::map<std::tuple<int32_t, int32_t, int16_t>, Variant> linesNb;
+        std::map<RankKey, Variant> byCode;
+        std::map<RankKey, Variant> byName;
+        std::map<std::tuple<int32_t, int32_t, int32_t, int32_t, int16_t>, Variant> lineInfo;
+    };
+
     host::CatalogRef in_;
-    std::optional<String> vigente_;
-    std::map<std::tuple<int32_t, int32_t>, Variant> getInfo_;
-    std::map<std::tuple<int32_t, String, String>, Variant> dico_;
-    std::map<std::tuple<int32_t, int32_t, int16_t>, Variant> linesNb_;
-    std::map<RankKey, Variant> byCode_;
-    std::map<RankKey, Variant> byName_;
-    std::map<std::tuple<int32_t, int32_t, int32_t, int32_t, int16_t>, Variant> lineInfo_;
+    std::map<String, Memo> porRuta_;
+    Memo sinRuta_;  // before any load, or after a load that failed
+    Memo* actual_ = &sinRuta_;
 };
 
 }  // namespace

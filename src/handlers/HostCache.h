@@ -1,8 +1,8 @@
 #pragma once
 // Host objects that answer a repeated identical read from memory, for the length of one
 // entry-point call (the objects are created per call, and the host's tables may change between
-// calls). Scene reads are forgotten at every change of the scene, catalogue reads when another
-// catalogue is loaded; every write, load, message and replacement still reaches the host.
+// calls). Scene reads are forgotten at every change of the scene; catalogue reads are kept per
+// catalogue file loaded; every write, load, message and replacement still reaches the host.
 #include "host/Factory.h"
 
 namespace handlers {

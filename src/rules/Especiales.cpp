@@ -4,6 +4,7 @@
 #include <array>
 #include <map>
 #include <optional>
+#include <unordered_set>
 
 #include "vb/Conversions.h"
 #include "vb/Strings.h"
@@ -43,12 +44,12 @@ std::optional<String> reglaDe(int32_t& sessionId, host::Catalog& catalog, const 
     return vb::CStr(catalog.TableGetLineInfo(sessionId, 2, 0, rank, 2));
 }
 
-// The names of the listed models that table 8 knows, in list order.
-std::vector<String> nombresPermitidos(const String& rest, NombresTabla8& tabla) {
-    std::vector<String> names;
+// The names of the listed models that table 8 knows.
+std::unordered_set<String> nombresPermitidos(const String& rest, NombresTabla8& tabla) {
+    std::unordered_set<String> names;
     for (const auto& code : vb::Split(rest, u" ")) {
         const auto& name = tabla.nombre(code);
-        if (name) names.push_back(*name);
+        if (name) names.insert(*name);
     }
     return names;
 }
@@ -68,7 +69,7 @@ void llenaKind(ModVariables& mv, int k, const std::optional<String>& regla, bool
     const auto names = nombresPermitidos(rest, tabla);
     for (int m = 0; m < n; ++m) {
         const String& model = m < static_cast<int>(mv.modelos.size()) ? mv.modelos[m] : String();
-        mv.permisosModelo[m][k] = std::find(names.begin(), names.end(), model) != names.end();
+        mv.permisosModelo[m][k] = names.count(model) > 0;
     }
 }
 
