@@ -1,5 +1,7 @@
 #include "sim/Recorder.h"
 
+#include <string_view>
+
 namespace sim {
 
 namespace {
@@ -74,7 +76,14 @@ void Recorder::endCall(Json result, Json error, std::optional<Json> args) {
 }
 
 void Recorder::hostCall(const char* member) {
-    if (inCall_) ++hostCalls_[member];
+    if (!inCall_) return;
+    const std::string_view name(member);
+    const auto it = hostCalls_.find(name);
+    if (it != hostCalls_.end()) {
+        ++it->second;
+    } else {
+        hostCalls_.emplace(name, 1);
+    }
 }
 
 void Recorder::event(Json event) {

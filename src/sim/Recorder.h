@@ -49,7 +49,7 @@ class Recorder : public dialog::DialogObserver {
   private:
     Json calls_ = Json::array();
     Json current_;
-    std::map<std::string, int64_t> hostCalls_;
+    std::map<std::string, int64_t, std::less<>> hostCalls_;  // no allocation per count
     bool inCall_ = false;
 };
 
