@@ -1,6 +1,6 @@
 #pragma once
 // The dialog view of one call: plays the call's user actions and reports to the observer.
-// Null while this build has no headless view (the plug-in then has no dialog to show).
+// Every call gets one, so a dialog the plug-in opens always has a view.
 #include <memory>
 #include <vector>
 
