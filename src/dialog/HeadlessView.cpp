@@ -26,6 +26,11 @@ void HeadlessView::showModal(frmEspEnc& form) {
     try {
         for (const UserAction& action : actions_) {
             if (form.descargado()) break;
+            if (action.kind == UserAction::Kind::Close) {
+                form.Unload();
+                observer_.dialogClosed("closeBox");
+                return;
+            }
             ejecuta(form, action);
         }
         if (form.descargado()) {
@@ -45,10 +50,6 @@ void HeadlessView::ejecuta(frmEspEnc& form, const UserAction& a) {
     switch (a.kind) {
         case Kind::Snapshot:
             observer_.snapshot(instantanea(form));
-            return;
-        case Kind::Close:
-            form.Unload();
-            observer_.dialogClosed("closeBox");
             return;
         case Kind::ListClick:
             pulsaLista(form, a);

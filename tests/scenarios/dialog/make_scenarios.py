@@ -1,0 +1,212 @@
+#!/usr/bin/env python3
+"""Writes the dialog scenarios of this folder: one kitchen world, one file per user journey.
+Run from anywhere; the transcripts (NAME.expected.json) come from the runner and are checked
+by reading before they are committed."""
+import copy
+import json
+import os
+
+HERE = os.path.dirname(os.path.abspath(__file__))
+
+TEXTS = {
+    "TR_0001": "Edición de especiales",
+    "TR_0002": "Costados", "TR_0003": "Frentes", "TR_0004": "Equip. interior",
+    "TR_0005": "Otros", "TR_0006": "Tipos de especiales", "TR_0007": "Diagonales",
+    "TR_0008": "Encastres de pilar",
+    "TR_0009": "ANCHO", "TR_0010": "ALTO", "TR_0011": "FONDO", "TR_0012": "ANCHO - ALTO",
+    "TR_0013": "ANCHO - FONDO", "TR_0014": "ALTO - FONDO", "TR_0015": "ANCHO - ALTO - FONDO",
+    "TR_0016": "Medidas", "TR_0017": "Ancho:", "TR_0018": "Alto:", "TR_0019": "Fondo:",
+    "TR_0021": "Cancelar valores",
+    "TR_0022": "Seleccione el tipo de especial a modificar.",
+    "TR_0023": "Seleccione la forma de la diagonal.",
+    "TR_0024": "No Disponible", "TR_0027": "Aceptar Componentes",
+    "TR_0028": "Salir sin guardar", "TR_0037": "Vista previa:", "TR_0038": "Valores:",
+    "TR_0043": "Este mueble no admite diagonal.", "TR_0044": "Medidas por defecto",
+    "TR_0046": "Diagonal por longitudes", "TR_0047": "Diagonal por ángulo",
+    "TR_9001": "Atención",
+    "TR_9003": "Las medidas especiales no han cambiado:",
+    "TR_9004": "Medidas sin cambio",
+    "TR_9006": "Encastres de pilar",
+    "TR_9007": "Diagonal",
+    "TR_9010": "Un valor de encastre supera su máximo.",
+    "TR_9011": "Falta un valor de encastre.",
+    "TR_9018": "Ancho fuera de límites: ",
+    "TR_9019": "Alto fuera de límites: ",
+    "TR_9020": "Fondo fuera de límites: ",
+    "ENC1": "Profundidad", "ENC2": "Altura", "ENC3": "Anchura",
+}
+
+KINDS = ["MO_EA", "MO_EAl", "MO_EF", "MO_EAAl", "MO_EAF", "MO_EAlF", "MO_EAAlF"]
+
+
+def catalogue():
+    table2 = [{"code": k, "cols": {"9": v}} for k, v in TEXTS.items()]
+    table2 += [{"code": k, "cols": {"2": "MO: M01 M02"}} for k in KINDS]
+    return {
+        "language": "ESP",
+        "tables": {
+            "2": table2,
+            "3": [{"name": "B60", "cols": {"3": "600", "4": "560", "5": "720"}}],
+            "8": [{"code": "M01", "cols": {"1": "M01", "3": "TIBER", "4": "PUERTA"}},
+                  {"code": "M02", "cols": {"1": "M02", "3": "MONZA", "4": "PUERTA"}}],
+            "19": [{"name": "PILAR1", "data": "imagen del pilar"}],
+        },
+    }
+
+
+def comp(oid, code, text, chosen="0", listed="1", **more):
+    info = {"4": code, "5": text, "58": listed, "59": chosen}
+    info.update(more.pop("info", {}))
+    o = {"id": oid, "info": info}
+    o.update(more)
+    return o
+
+
+def cabinet(oid=100, catalogue_number="40", width="600", height="720", depth="560",
+            cut_outs="", file_name="cocina"):
+    markers = [comp(oid + 1 + k, p + "B60", "marca", listed="0")
+               for k, p in enumerate(["EA_", "EAl_", "EF_", "EAA_", "EAF_", "EAlF_", "EAAF_"])]
+    return {
+        "id": oid,
+        "info": {"0": file_name, "2": catalogue_number, "7": "B60", "8": "B60-TIBER",
+                 "12": width, "13": depth, "14": height, "15": "1", "16": "1", "17": "1",
+                 "53": cut_outs, "64": "TIBER"},
+        "script": "LMIN=300,LMAX=1200,HMIN=500,HMAX=900,PMIN=300,PMAX=700)",
+        "children": markers + [
+            comp(oid + 10, "CS_IZQ", "Costado izquierdo", "1"),
+            comp(oid + 11, "CS_DER", "Costado derecho", "0"),
+            comp(oid + 20, "FR_PUERTA", "Puerta", "1", children=[
+                comp(oid + 21, "FR_TIRADOR", "Tirador", "1"),
+                comp(oid + 22, "FR_BISAGRA", "Bisagras", "0")]),
+            comp(oid + 30, "EQ_BALDA", "Balda", "0"),
+            comp(oid + 31, "EQ_CAJON", "Cajón interior", "1",
+                 info={"10": "con freno", "11": "2"}),
+            comp(oid + 40, "O_ZOCALO", "Zócalo", "1"),
+            comp(oid + 41, "O_PATA", "Patas altas", "0", info={"15": "1"},
+                 script="LMIN=700,LMAX=900)"),
+            comp(oid + 42, "CS_OCULTO", "Costado oculto", "0", listed="0"),
+            comp(oid + 50, "PIL_CJ1", "Encastre pilar izquierdo", "0",
+                 script="/// PILAR1 ENC1(MIN=50,MAX=@L) ENC2(MIN=0,MAX=@H)"),
+            comp(oid + 51, "PIL_CJ2", "Encastre pilar derecho", "0",
+                 script="ENC3(MIN=10,MAX=@P)"),
+            comp(oid + 60, "COR_DG", "Corte diagonal", "0", info={"49": "Corte en diagonal"}),
+        ],
+    }
+
+
+def world(scene, calls, catalogues=None):
+    return {
+        "application": {
+            "language": "ESP",
+            "moduleDir": "C:\\Quorbel",
+            "files": {"C:\\Quorbel\\SPACE.INI": "[Local]\r\nCatalogsDir=C:\\Cat\r\n",
+                      "C:\\Quorbel\\Space.ini": "[Local]\r\nCatalogsDir=C:\\Cat\r\n"},
+        },
+        "catalogs": catalogues or {"C:\\Cat\\cocina.cat": catalogue()},
+        "scene": scene,
+        "calls": calls,
+    }
+
+
+def call(ui, obj=100, cls="Plugin", method="OnObjectComponentsBefore"):
+    return {"class": cls, "method": method, "object": obj, "ui": ui}
+
+
+def click(control, index=None):
+    a = {"do": "click", "control": control}
+    if index is not None:
+        a["index"] = index
+    return a
+
+
+def typed(control, index, text):
+    return {"do": "type", "control": control, "index": index, "text": text}
+
+
+def lclick(lst, entry):
+    return {"do": "listClick", "list": lst, "entry": entry}
+
+
+SNAP = {"do": "snapshot"}
+ACCEPT = click("btnAcptComp")
+EXIT = click("btnCnlComps")
+
+SCENARIOS = {
+    # Loading: lists, recess rows, special types, captions; then "Salir sin guardar".
+    "open_and_exit": [call([SNAP, EXIT])],
+    # Width special and changed within the script limits: measures and the ANCHO marker.
+    "width_within_limits": [call([click("PictureEsp", 0), typed("TextMedEsp", 0, "65x0"),
+                                  SNAP, ACCEPT])],
+    # Width and height out of limits: one message listing both; the dialog stays open.
+    "measures_out_of_limits": [call([click("EtiqCuadEsp", 3), typed("TextMedEsp", 0, "1300"),
+                                     typed("TextMedEsp", 1, "\b\b\b400"),
+                                     ACCEPT, typed("TextMedEsp", 0, "800"), ACCEPT,
+                                     typed("TextMedEsp", 1, "800"), ACCEPT])],
+    # A special measure left unchanged: message; after a list toggle: reduced writes.
+    "unchanged_special": [call([click("PictureEsp", 0), ACCEPT, lclick(1, 2), ACCEPT])],
+    # Recess values above their maxima: message, nothing stored; corrected: stored, annotated.
+    "recess_values": [call([lclick(4, 0), SNAP, typed("TxtValoresEnc", 0, "900"), ACCEPT,
+                            typed("TxtValoresEnc", 0, "550"), typed("TxtValoresEnc", 1, "a+10"),
+                            ACCEPT])],
+    # The diagonal by lengths, with its failures, then accepted.
+    "diagonal_lengths": [call([click("ImageDiagonal", 0), typed("TextValores", 0, "700"),
+                               typed("TextValores", 1, "300"), typed("TextValores", 2, "200"),
+                               ACCEPT, typed("TextValores", 0, "300"),
+                               typed("TextValores", 2, "700"), ACCEPT,
+                               typed("TextValores", 2, "144.5"), ACCEPT])],
+    # The diagonal by angle: empty, 181, then 180.
+    "diagonal_angle": [call([click("ImageDiagonal", 1), ACCEPT, typed("TextValores", 3, "181"),
+                             ACCEPT, typed("TextValores", 3, "180"), ACCEPT])],
+    # "Cancelar valores" drops the diagonal at once; "Salir sin guardar" writes nothing else.
+    "cancel_values_and_exit": [call([click("ImageDiagonal", 0), typed("TextValores", 0, "100"),
+                                     click("BotonCnlValores"), SNAP, EXIT])],
+    # The window's close box and the end of the actions close like "Salir sin guardar".
+    "close_box_and_end": [call([lclick(0, 1), {"do": "close"}]), call([lclick(0, 1)])],
+    # A wider cabinet opens with ANCHO selected; "Medidas por defecto" restores 600.
+    "default_measures": [call([SNAP, {"do": "mouseDown", "control": "EtiqCnlMed"},
+                               {"do": "mouseUp", "control": "EtiqCnlMed"},
+                               click("EtiqCnlMed"), SNAP, ACCEPT])],
+    # Accepting recesses and a diagonal, then reopening: stored values come back.
+    "reopen_restores": [
+        call([lclick(4, 0), typed("TxtValoresEnc", 0, "120"), typed("TxtValoresEnc", 1, "80"),
+              click("ImageDiagonal", 1), typed("TextValores", 3, "45"), ACCEPT]),
+        call([SNAP, EXIT])],
+    # An action on a control the dialog does not have: the error trap reports it.
+    "error_trap": [call([lclick(0, 1), click("NoSuchControl"), SNAP])],
+    # Wizard: the dialog for catalogues 31 to 33 only.
+    "wizard_catalogues": [call([SNAP], obj=300, cls="Wizard"),
+                          call([], obj=500, cls="Wizard"),
+                          call([], obj=100, cls="Wizard", method="ObjectWizard"),
+                          call([EXIT], obj=300, cls="Wizard", method="ObjectWizard")],
+    # The catalogue file is found nowhere: one message, no dialog.
+    "missing_catalogue": [call([], obj=400)],
+}
+
+
+def scene_for(name):
+    if name == "default_measures":
+        return [cabinet(width="650")]
+    if name == "wizard_catalogues":
+        return [cabinet(300, "31", file_name="forma10"), cabinet(500, "34", file_name="forma10"),
+                cabinet()]
+    if name == "missing_catalogue":
+        return [cabinet(400, file_name="perdido")]
+    return [cabinet()]
+
+
+def catalogues_for(name):
+    if name == "wizard_catalogues":
+        return {"C:\\Cat\\cocina.cat": catalogue(), "C:\\Cat\\forma10.cat": catalogue()}
+    return None
+
+
+def main():
+    for name, calls in SCENARIOS.items():
+        data = world(scene_for(name), calls, catalogues_for(name))
+        with open(os.path.join(HERE, name + ".json"), "w", encoding="utf-8") as f:
+            json.dump(data, f, ensure_ascii=False, indent=1)
+            f.write("\n")
+
+
+if __name__ == "__main__":
+    main()
