@@ -47,11 +47,12 @@ void Player::play(const CallSpec& call) {
     vb::setDecimalSeparator(sim_.world().application.decimalSeparator);
     state.call = {block, &call};
     recorder.beginCall(call.className, call.method);
-    const auto view = makeDialogView(call.ui, recorder, platform_);
-    env_.dialogView = view.get();
+    std::unique_ptr<dialog::DialogView> view;
     MethodOutcome outcome;
     Json error = nullptr;
     try {
+        view = makeDialogView(call.ui, recorder, platform_);
+        env_.dialogView = view.get();
         outcome = dispatch(call, block);
     } catch (const vb::RuntimeError& e) {
         error = errorJson(e.number(), e.description());
