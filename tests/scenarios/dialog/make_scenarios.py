@@ -180,10 +180,64 @@ SCENARIOS = {
                           call([EXIT], obj=300, cls="Wizard", method="ObjectWizard")],
     # The catalogue file is found nowhere: one message, no dialog.
     "missing_catalogue": [call([], obj=400)],
+    # Captions through the dictionary when the languages differ.
+    "captions_translated": [call([SNAP, EXIT])],
+    # Languages that differ only in case: captions as the catalogue has them.
+    "languages_same_ignoring_case": [call([click("PictureEsp", 0), typed("TextMedEsp", 0, "1300"),
+                                           ACCEPT, SNAP, EXIT])],
+    # Texts that are not numbers: a pasted measure, a fractional recess value, a diagonal
+    # value beyond 16 bits; then "Cancelar valores" and a clean accept.
+    "invalid_inputs": [call([click("EtiqCuadEsp", 0), {"do": "paste", "control": "TextMedEsp",
+                                                        "index": 0, "text": "abc"},
+                             ACCEPT, typed("TextMedEsp", 0, "650"), lclick(4, 0),
+                             typed("TxtValoresEnc", 0, "1.5"), ACCEPT,
+                             typed("TxtValoresEnc", 0, "15"), click("ImageDiagonal", 0),
+                             typed("TextValores", 0, "40000"), typed("TextValores", 1, "10"),
+                             typed("TextValores", 2, "10"), ACCEPT,
+                             click("EtiqCnlValores"), ACCEPT])],
+    # Offering by door model and exception lists, hiding by the object's fixed dimensions.
+    "types_offered": [call([SNAP, click("PictureEsp", 3), click("EtiqCuadEsp", 2),
+                             click("EtiqCuadEsp", 1), SNAP, EXIT])],
+    # Many recesses: the panel scrolls.
+    "recess_panel_scrolls": [call([{"do": "scroll", "value": 900}, SNAP,
+                                   {"do": "scroll", "value": 100000}, SNAP, EXIT])],
+    # Hundreds of components and recesses load; rows stop where the panel height ends.
+    "hundreds_of_components": [call([lclick(4, 0), lclick(4, 119), lclick(3, 250), ACCEPT])],
+    # Picture names that would leave the temporary folder or name a device are not exported.
+    "picture_names": [call([lclick(4, 0), lclick(4, 2), SNAP, EXIT])],
 }
 
 
+def recess_cabinet(count, params, others=0):
+    c = cabinet()
+    kids = [k for k in c["children"] if "_CJ" not in k["info"]["4"]]
+    specs = " ".join("ENC%d(MIN=0,MAX=@L)" % (p % 3 + 1) for p in range(params))
+    for i in range(count):
+        kids.append(comp(1000 + i, "P_CJ%d" % i, "Encastre %d" % i, "0",
+                         script="/// PILAR1 " + specs))
+    for i in range(others):
+        kids.append(comp(5000 + i, "O_%d" % i, "Otro %d" % i, "0"))
+    c["children"] = kids
+    return c
+
+
 def scene_for(name):
+    if name == "recess_panel_scrolls":
+        return [recess_cabinet(6, 3)]
+    if name == "hundreds_of_components":
+        return [recess_cabinet(120, 1, 300)]
+    if name == "picture_names":
+        c = cabinet()
+        kids = [k for k in c["children"] if "_CJ" not in k["info"]["4"]]
+        for i, pic in enumerate(["..\\fuera", "CON.bmp", "PILAR1", "sub/PILAR1"]):
+            kids.append(comp(700 + i, "P_CJ%d" % i, "Encastre " + pic, "0",
+                             script="/// " + pic + " ENC1(MIN=0,MAX=@L)"))
+        c["children"] = kids
+        return [c]
+    if name == "types_offered":
+        c = cabinet()
+        c["info"]["16"] = "0"
+        return [c]
     if name == "default_measures":
         return [cabinet(width="650")]
     if name == "wizard_catalogues":
@@ -194,18 +248,59 @@ def scene_for(name):
     return [cabinet()]
 
 
+def offered_catalogue():
+    cat = catalogue()
+    rules = {"MO_EA": "MO: M01", "MO_EAl": "MO: M02", "MO_EF": "MO: M01", "MO_EAAl": "MO: M02",
+             "MO_EAF": "MO: M01", "MO_EAlF": "MO: M01", "MO_EAAlF": "MO: M01"}
+    cat["tables"]["2"] = [l for l in cat["tables"]["2"] if l["code"] not in rules]
+    cat["tables"]["2"] += [{"code": k, "cols": {"2": v}} for k, v in rules.items()]
+    cat["tables"]["2"].append({"code": "EX_EAl", "cols": {"2": "EX: A60-TIBER B60-TIBER"}})
+    return cat
+
+
+def english_dictionary():
+    names = ["Edición de especiales", "Costados", "Frentes", "Equip. interior", "Otros",
+             "ANCHO", "ALTO", "Medidas", "Ancho:", "Salir sin guardar", "Aceptar Componentes"]
+    english = ["Special editing", "Sides", "Fronts", "Interior", "Others", "WIDTH", "HEIGHT",
+               "Measures", "Width:", "Leave without saving", "Accept components"]
+    return {"ENG": dict(zip(names, english))}
+
+
 def catalogues_for(name):
+    if name == "types_offered":
+        return {"C:\\Cat\\cocina.cat": offered_catalogue()}
     if name == "wizard_catalogues":
         return {"C:\\Cat\\cocina.cat": catalogue(), "C:\\Cat\\forma10.cat": catalogue()}
     return None
 
 
+# The demo: a complete edit of a cabinet, accepted, then the dialog reopened.
+DEMO = [
+    call([SNAP, click("EtiqCuadEsp", 0), typed("TextMedEsp", 0, "650"), lclick(0, 1),
+          lclick(1, 0), lclick(2, 0), lclick(4, 0), typed("TxtValoresEnc", 0, "150"),
+          typed("TxtValoresEnc", 1, "300"), lclick(4, 1), click("ImageDiagonal", 0),
+          typed("TextValores", 0, "200"), typed("TextValores", 1, "150"),
+          typed("TextValores", 2, "250"), SNAP, ACCEPT]),
+    call([SNAP, EXIT]),
+]
+DEMO_FILE = os.path.join(HERE, "..", "..", "..", "samples", "dialog", "12_dialogo_especiales.json")
+
+
 def main():
     for name, calls in SCENARIOS.items():
         data = world(scene_for(name), calls, catalogues_for(name))
+        if name == "captions_translated":
+            data["application"]["language"] = "ENG"
+            data["application"]["dictionary"] = english_dictionary()
+        if name == "languages_same_ignoring_case":
+            data["application"]["language"] = "esp"
+            data["application"]["dictionary"] = {"esp": {"Atención": "ATENCION"}}
         with open(os.path.join(HERE, name + ".json"), "w", encoding="utf-8") as f:
             json.dump(data, f, ensure_ascii=False, indent=1)
             f.write("\n")
+    with open(DEMO_FILE, "w", encoding="utf-8") as f:
+        json.dump(world([cabinet()], DEMO), f, ensure_ascii=False, indent=1)
+        f.write("\n")
 
 
 if __name__ == "__main__":
