@@ -1,0 +1,53 @@
+// The component tree walk: indentation by depth, listing rules, and host answers that repeat
+// an ancestor.
+#include <gtest/gtest.h>
+
+#include "FakeDialogo.h"
+
+namespace {
+
+fakedlg::Objeto componente(const char16_t* code, const char16_t* text,
+                           std::vector<int32_t> hijos = {}) {
+    fakedlg::Objeto o;
+    o.info[4] = code;
+    o.info[5] = text;
+    o.info[58] = u"1";
+    o.hijos = std::move(hijos);
+    return o;
+}
+
+TEST(RecorreHijos, IndentsByDepthAndListsByCode) {
+    fakedlg::Banco banco;
+    auto& m = banco.mundo.objetos;
+    m[-2].hijos = {1, 2, 3, -1};
+    m[1] = componente(u"XX_CS_01", u"Lado", {11});
+    m[11] = componente(u"FR_X", u"Hijo", {111});
+    m[111] = componente(u"FR_Y", u"Nieto");
+    m[2] = componente(u"ABC", u"Nada");
+    m[3] = componente(u"EQ_1", u"Balda");
+    m[3].info[58] = u"0";
+    bool tieneHijos = false;
+    auto& f = banco.f();
+    f.recorreHijos(-2, tieneHijos, f.numListas, f.nivelArbol);
+    ASSERT_EQ(f.listComponentes[0].entries.size(), 1u);
+    EXPECT_EQ(f.listComponentes[0].entries[0].text, u"Lado");
+    ASSERT_EQ(f.listComponentes[1].entries.size(), 2u);
+    EXPECT_EQ(f.listComponentes[1].entries[0].text, u"==>Hijo");
+    EXPECT_EQ(f.listComponentes[1].entries[1].text, u"  ==>Nieto");
+    EXPECT_TRUE(f.listComponentes[2].entries.empty());
+    EXPECT_EQ(f.idsListas[1], (std::vector<int32_t>{11, 111, 0}));
+}
+
+TEST(RecorreHijos, AHostAnswerThatRepeatsAnAncestorIsNotWalkedAgain) {
+    fakedlg::Banco banco;
+    auto& m = banco.mundo.objetos;
+    m[-2].hijos = {1};
+    m[1] = componente(u"O_1", u"Uno", {2});
+    m[2] = componente(u"O_2", u"Dos", {1, 2});  // its parent and itself
+    bool tieneHijos = false;
+    auto& f = banco.f();
+    f.recorreHijos(-2, tieneHijos, f.numListas, f.nivelArbol);
+    EXPECT_EQ(f.listComponentes[3].entries.size(), 4u);  // each listed once more, no deeper
+}
+
+}  // namespace
