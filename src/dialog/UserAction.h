@@ -49,8 +49,9 @@ class DialogObserver {
     virtual ~DialogObserver() = default;
     virtual void dialogShown(const String& title) = 0;
     virtual void snapshot(const Snapshot& snapshot) = 0;
-    // how: "unload" (the program closed it), "closeBox" (the user's close action), or
-    // "endOfActions" (the scenario's actions ran out and the runner closed it).
+    // how: "unload" (the program closed it), "closeBox" (the user's close action),
+    // "endOfActions" (the scenario's actions ran out and the runner closed it), or "error"
+    // (a runtime error closed it on its way to the handler's error trap).
     virtual void dialogClosed(const std::string& how) = 0;
 };
 
