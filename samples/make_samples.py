@@ -216,6 +216,21 @@ GOLDEN = {
 }
 
 
+def subcarpetas():
+    """The catalogue directory only in [Remote]; the catalogue in two sub-folders (the one
+    listed later wins) and an empty file of the same name in a third (not taken)."""
+    s = escenario([call("OnObjectPlaceAfter", 100)])
+    app = s["application"]
+    app["files"] = {MODULE + "\\SPACE.INI": "[Remote]\r\nCatalogsDir=C:\\Red\r\n",
+                    "C:\\Red\\Vacio\\cocinas.cat": {"size": 0}}
+    s["catalogs"] = {"C:\\Red\\Antiguo\\cocinas.cat": cocinas(),
+                     "C:\\Red\\Nuevo\\cocinas.cat": cocinas()}
+    return s
+
+
+GOLDEN["rules/catalogue_subfolders.json"] = subcarpetas()
+
+
 def write(path, data):
     os.makedirs(os.path.dirname(path), exist_ok=True)
     with open(path, "w", encoding="utf-8") as f:
