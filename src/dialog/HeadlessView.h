@@ -20,11 +20,6 @@ class HeadlessView : public DialogView {
     void showModal(frmEspEnc& form) override;
 
   private:
-    void ejecuta(frmEspEnc& form, const UserAction& action);
-    void escribe(frmEspEnc& form, const UserAction& action);
-    void pulsaLista(frmEspEnc& form, const UserAction& action);
-    void desplaza(frmEspEnc& form, const UserAction& action);
-
     std::vector<UserAction> actions_;
     DialogObserver& observer_;
     platform::Platform& platform_;
