@@ -54,7 +54,7 @@ std::unordered_set<String> nombresPermitidos(const String& rest, NombresTabla8& 
     return names;
 }
 
-void llenaKind(ModVariables& mv, int k, const std::optional<String>& regla, bool reglaAll,
+void llenaTipo(ModVariables& mv, int k, const std::optional<String>& regla, bool reglaAll,
                NombresTabla8& tabla) {
     const int n = mv.numModelos;
     if (!regla) {
@@ -120,7 +120,7 @@ void InicEspMod(int32_t& sessionId, host::Catalog& catalog, bool reglaAll, int k
         const String code = k < static_cast<int>(mv.codigosMO.size()) ? mv.codigosMO[k] : String();
         // The line of a kind gives the same answer for every model within one fill, so one
         // look-up serves all models (also where it was asked once per model).
-        llenaKind(mv, k, reglaDe(sessionId, catalog, code), reglaAll, tabla);
+        llenaTipo(mv, k, reglaDe(sessionId, catalog, code), reglaAll, tabla);
     }
 }
 
