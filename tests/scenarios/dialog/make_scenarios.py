@@ -176,6 +176,8 @@ SCENARIOS = {
     # Wizard: the dialog for catalogues 31 to 33 only.
     "wizard_catalogues": [call([SNAP], obj=300, cls="Wizard"),
                           call([], obj=500, cls="Wizard"),
+                          call([], obj=600, cls="Wizard"),
+                          call([], obj=700, cls="Wizard"),
                           call([], obj=100, cls="Wizard", method="ObjectWizard"),
                           call([EXIT], obj=300, cls="Wizard", method="ObjectWizard")],
     # The catalogue file is found nowhere: one message, no dialog.
@@ -242,6 +244,7 @@ def scene_for(name):
         return [cabinet(width="650")]
     if name == "wizard_catalogues":
         return [cabinet(300, "31", file_name="forma10"), cabinet(500, "34", file_name="forma10"),
+                cabinet(600, "32", file_name="forma10"), cabinet(700, "33", file_name="forma10"),
                 cabinet()]
     if name == "missing_catalogue":
         return [cabinet(400, file_name="perdido")]
