@@ -179,8 +179,9 @@ class frmEspEnc {
     void escribeMedidas();
     void escribeTipo(int t, const String& valor);
     void limpiaTipos();
+    struct Recorrido;  // objects already walked and the current depth
     void recorreDesde(int32_t id, bool& tieneHijos, std::array<int16_t, 5>& cuentas, int16_t& nivel,
-                      std::vector<int32_t>& ancestros);
+                      Recorrido& recorrido);
     void listaComponente(int32_t child, int lista, std::array<int16_t, 5>& cuentas, int16_t nivel,
                          const String& script);
     bool exportaImagen(const String& nombre, const String& ruta);

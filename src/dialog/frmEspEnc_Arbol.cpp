@@ -1,6 +1,7 @@
 // The walk of the edited object's component tree that fills the five lists, the recess rows
 // and the diagonal component.
 #include <algorithm>
+#include <unordered_set>
 
 #include "dialog/Lectura.h"
 #include "dialog/frmEspEnc.h"
@@ -39,29 +40,42 @@ bool esUnoODos(const vb::Variant& v) {
 
 }  // namespace
 
+struct frmEspEnc::Recorrido {
+    std::unordered_set<int32_t> visitados;
+    size_t profundidad = 0;
+    int bajoMenosUno = 0;  // -1 stands for no object: repeated only as its own ancestor
+
+    bool yaRecorrido(int32_t id) const {
+        return id == -1 ? bajoMenosUno > 0 : visitados.count(id) > 0;
+    }
+};
+
 void frmEspEnc::recorreHijos(int32_t id, bool& tieneHijos, std::array<int16_t, 5>& cuentas,
                              int16_t& nivel) {
-    std::vector<int32_t> ancestros;
-    recorreDesde(id, tieneHijos, cuentas, nivel, ancestros);
+    Recorrido recorrido;
+    recorreDesde(id, tieneHijos, cuentas, nivel, recorrido);
 }
 
 void frmEspEnc::recorreDesde(int32_t id, bool& tieneHijos, std::array<int16_t, 5>& cuentas,
-                             int16_t& nivel, std::vector<int32_t>& ancestros) {
+                             int16_t& nivel, Recorrido& recorrido) {
     auto& scene = use(mv_.miScene);
-    ancestros.push_back(id);
+    recorrido.visitados.insert(id);
+    ++recorrido.profundidad;
+    if (id == -1) ++recorrido.bajoMenosUno;
     int32_t n = vb::CLng(scene.ObjectGetChildrenNb(mv_.miSessionId, id, 0));
     for (int32_t i = 1; i <= n; ++i) {
         int32_t child = vb::CLng(scene.ObjectGetChildId(mv_.miSessionId, id, i, 0));
         if (child != -1) clasificaHijo(child, tieneHijos, cuentas, nivel);
         if (!tieneHijos) continue;
-        // A host answer that repeats an ancestor is a cycle: not walked again below it.
-        bool ciclo = std::find(ancestros.begin(), ancestros.end(), child) != ancestros.end();
-        if (ciclo || ancestros.size() >= kProfundidadMaxima) continue;
+        // A host answer that repeats an object already walked (an ancestor: a cycle) is not
+        // walked again below it, so no answer can make the walk endless or too deep.
+        if (recorrido.yaRecorrido(child) || recorrido.profundidad >= kProfundidadMaxima) continue;
         if (nivel < kMaximoEntero) ++nivel;
-        recorreDesde(child, tieneHijos, cuentas, nivel, ancestros);
+        recorreDesde(child, tieneHijos, cuentas, nivel, recorrido);
     }
     if (!tieneHijos && nivel > 0) --nivel;
-    ancestros.pop_back();
+    --recorrido.profundidad;
+    if (id == -1) --recorrido.bajoMenosUno;
 }
 
 void frmEspEnc::clasificaHijo(int32_t child, bool& tieneHijos, std::array<int16_t, 5>& cuentas,

@@ -50,4 +50,20 @@ TEST(RecorreHijos, AHostAnswerThatRepeatsAnAncestorIsNotWalkedAgain) {
     EXPECT_EQ(f.listComponentes[3].entries.size(), 4u);  // each listed once more, no deeper
 }
 
+TEST(RecorreHijos, SharedSubtreesAndDeepChainsStayBounded) {
+    fakedlg::Banco banco;
+    auto& m = banco.mundo.objetos;
+    // Every level names the next one twice: walked once per object, not 2^n times.
+    m[-2].hijos = {1};
+    for (int32_t id = 1; id <= 40; ++id) m[id] = componente(u"O_x", u"x", {id + 1, id + 1});
+    m[41] = componente(u"O_x", u"x");
+    // A chain far deeper than any cabinet.
+    m[-2].hijos.push_back(1000);
+    for (int32_t id = 1000; id < 6000; ++id) m[id] = componente(u"Z", u"z", {id + 1});
+    bool tieneHijos = false;
+    auto& f = banco.f();
+    f.recorreHijos(-2, tieneHijos, f.numListas, f.nivelArbol);
+    EXPECT_EQ(f.listComponentes[3].entries.size(), 81u);  // 1 + 2 per level below
+}
+
 }  // namespace
