@@ -162,6 +162,7 @@ class frmEspEnc {
 
   private:
     void diseno();
+    void leeObjeto();
     void mensaje(const String& texto, const String& titulo, platform::MsgIcon icono);
     handlers::Idiomas idiomas();  // both languages; traducir ignores case
     String textoClave(const handlers::Idiomas& idiomas, const String& clave);

@@ -26,8 +26,6 @@ String celdaTabla2(rules::ModVariables& mv, const String& codigo) {
 }  // namespace
 
 void frmEspEnc::Form_Load() {
-    auto& scene = use(mv_.miScene);
-    int32_t& sid = mv_.miSessionId;
     estadoCambios.clear();
     filasEncastre = 0;
     altoContenido =
@@ -35,24 +33,7 @@ void frmEspEnc::Form_Load() {
     picout_Resize();
     String icono = plataforma().moduleFolder() + u"\\IconAsist.ico";
     if (handlers::tamanoArchivo(env_, icono) != 0) Icon = icono;
-    textoCajeos = CStr(scene.ObjectGetInfo(sid, -2, 53));
-    mv_.docCajeos = plataforma().createXmlDocument();
-    mv_.docCajeos->loadXML(textoCajeos);
-    rules::iniciaPrefijosEsp();
-    medidasActuales = {mv_.medidaAncho, mv_.medidaAlto, mv_.medidaFondo, u""};
-    String nombre = CStr(scene.ObjectGetInfo(sid, -2, 7));
-    auto& catalog = use(mv_.miCatalog);
-    int32_t rango = CLng(catalog.TableGetLineRankFromName(sid, 3, 0, 1, nombre, false));
-    if (rango > 0) {
-        medidasDefecto[0] = CStr(catalog.TableGetLineInfo(sid, 3, 0, rango, 3));
-        medidasDefecto[2] = CStr(catalog.TableGetLineInfo(sid, 3, 0, rango, 4));
-        medidasDefecto[1] = CStr(catalog.TableGetLineInfo(sid, 3, 0, rango, 5));
-    }
-    textoCajeosNuevo.clear();
-    for (int m = 0; m < 3; ++m) TextMedEsp[m].Text = medidasActuales[m];
-    ImageDiagonal[0].Enabled = ImageDiagonal[1].Enabled = false;
-    textoEncastre1 = celdaTabla2(mv_, u"TR_0046");
-    textoEncastre2 = celdaTabla2(mv_, u"TR_0047");
+    leeObjeto();
     numListas = {};
     nivelArbol = 0;
     bool tieneHijos = false;
@@ -72,6 +53,30 @@ void frmEspEnc::Form_Load() {
     fijaEstadoInicial();
     barraScrolEnc.Enabled = EtiqTituloEnc[0].Visible;
     cargado_ = true;
+}
+
+// Load steps 5 to 12: the cut-out document, the measures and the catalogue's texts.
+void frmEspEnc::leeObjeto() {
+    auto& scene = use(mv_.miScene);
+    auto& catalog = use(mv_.miCatalog);
+    int32_t& sid = mv_.miSessionId;
+    textoCajeos = CStr(scene.ObjectGetInfo(sid, -2, 53));
+    mv_.docCajeos = plataforma().createXmlDocument();
+    mv_.docCajeos->loadXML(textoCajeos);
+    rules::iniciaPrefijosEsp();
+    medidasActuales = {mv_.medidaAncho, mv_.medidaAlto, mv_.medidaFondo, u""};
+    String nombre = CStr(scene.ObjectGetInfo(sid, -2, 7));
+    int32_t rango = CLng(catalog.TableGetLineRankFromName(sid, 3, 0, 1, nombre, false));
+    if (rango > 0) {
+        medidasDefecto[0] = CStr(catalog.TableGetLineInfo(sid, 3, 0, rango, 3));
+        medidasDefecto[2] = CStr(catalog.TableGetLineInfo(sid, 3, 0, rango, 4));
+        medidasDefecto[1] = CStr(catalog.TableGetLineInfo(sid, 3, 0, rango, 5));
+    }
+    textoCajeosNuevo.clear();
+    for (int m = 0; m < 3; ++m) TextMedEsp[m].Text = medidasActuales[m];
+    ImageDiagonal[0].Enabled = ImageDiagonal[1].Enabled = false;
+    textoEncastre1 = celdaTabla2(mv_, u"TR_0046");
+    textoEncastre2 = celdaTabla2(mv_, u"TR_0047");
 }
 
 void frmEspEnc::Form_Unload() {
