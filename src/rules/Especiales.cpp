@@ -4,7 +4,8 @@
 #include <array>
 #include <map>
 #include <optional>
-#include <unordered_set>
+#include <unordered_map>
+#include <vector>
 
 #include "vb/Conversions.h"
 #include "vb/Strings.h"
@@ -44,32 +45,36 @@ std::optional<String> reglaDe(int32_t& sessionId, host::Catalog& catalog, const 
     return vb::CStr(catalog.TableGetLineInfo(sessionId, 2, 0, rank, 2));
 }
 
-// The names of the listed models that table 8 knows.
-std::unordered_set<String> nombresPermitidos(const String& rest, NombresTabla8& tabla) {
-    std::unordered_set<String> names;
-    for (const auto& code : vb::Split(rest, u" ")) {
-        const auto& name = tabla.nombre(code);
-        if (name) names.insert(*name);
-    }
-    return names;
+// The rows of `modelos` by model name, built once per fill.
+using FilasPorNombre = std::unordered_map<String, std::vector<int>>;
+
+FilasPorNombre filasPorNombre(const ModVariables& mv) {
+    FilasPorNombre filas;
+    const int n = std::min<int>(mv.numModelos, static_cast<int>(mv.modelos.size()));
+    for (int m = 0; m < n; ++m) filas[mv.modelos[m]].push_back(m);
+    return filas;
 }
 
+void marcaTodos(ModVariables& mv, int k, bool valor) {
+    for (int m = 0; m < mv.numModelos; ++m) mv.permisosModelo[m][k] = valor;
+}
+
+// A model is allowed when some listed code that table 8 knows names it.
 void llenaTipo(ModVariables& mv, int k, const std::optional<String>& regla, bool reglaAll,
-               NombresTabla8& tabla) {
-    const int n = mv.numModelos;
-    if (!regla) {
-        for (int m = 0; m < n; ++m) mv.permisosModelo[m][k] = false;
-        return;
-    }
+               NombresTabla8& tabla, const FilasPorNombre& filas) {
+    marcaTodos(mv, k, false);
+    if (!regla) return;
     const String rest = regla->size() > 3 ? regla->substr(3) : String();
     if (reglaAll && rest == u" ALL") {
-        for (int m = 0; m < n; ++m) mv.permisosModelo[m][k] = true;
+        marcaTodos(mv, k, true);
         return;
     }
-    const auto names = nombresPermitidos(rest, tabla);
-    for (int m = 0; m < n; ++m) {
-        const String& model = m < static_cast<int>(mv.modelos.size()) ? mv.modelos[m] : String();
-        mv.permisosModelo[m][k] = names.count(model) > 0;
+    for (const auto& code : vb::Split(rest, u" ")) {
+        const auto& name = tabla.nombre(code);
+        if (!name) continue;
+        const auto it = filas.find(*name);
+        if (it == filas.end()) continue;
+        for (int m : it->second) mv.permisosModelo[m][k] = true;
     }
 }
 
@@ -115,12 +120,13 @@ void InicEspMod(int32_t& sessionId, host::Catalog& catalog, bool reglaAll, int k
     dimensionaMatriz(mv);
     if (mv.numModelos <= 0) return;  // no door model: every kind stays forbidden
     NombresTabla8 tabla(sessionId, catalog);
+    const FilasPorNombre filas = filasPorNombre(mv);
     kinds = std::clamp(kinds, 0, kNumTipos);
     for (int k = 0; k < kinds; ++k) {
         const String code = k < static_cast<int>(mv.codigosMO.size()) ? mv.codigosMO[k] : String();
         // The line of a kind gives the same answer for every model within one fill, so one
         // look-up serves all models (also where it was asked once per model).
-        llenaTipo(mv, k, reglaDe(sessionId, catalog, code), reglaAll, tabla);
+        llenaTipo(mv, k, reglaDe(sessionId, catalog, code), reglaAll, tabla, filas);
     }
 }
 
@@ -130,8 +136,9 @@ void InicEspMod2() {
     const int kinds = std::clamp<int>(mv.numTiposEsp, 0, kNumTipos);
     for (int k = 0; k < kinds; ++k) {
         for (int m = 0; m < mv.numModelos; ++m) {
+            static const String kSinNombre;
             const String& model =
-                m < static_cast<int>(mv.modelos.size()) ? mv.modelos[m] : String();
+                m < static_cast<int>(mv.modelos.size()) ? mv.modelos[m] : kSinNombre;
             mv.permisosModelo[m][k] = permisoFijo(k, model);
         }
     }
