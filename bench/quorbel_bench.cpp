@@ -50,14 +50,15 @@ void anadeCatalogo(sim::World& w, int k, int modelos) {
     }
 }
 
-// `muebles` top-level cabinets in three runs, one per catalogue; every cabinet carries a width
-// marker child, and every fifth has a changed width, decided by its door model.
-sim::World mundo(int muebles, int modelos) {
+// `muebles` top-level cabinets in three runs, one per catalogue (or alternating catalogues, so
+// that every cabinet prepares its catalogue's rules again); every cabinet carries a width marker
+// child, and every fifth has a changed width, decided by its door model.
+sim::World mundo(int muebles, int modelos, bool alterna = false) {
     sim::World w;
     w.files.putFile(u"C:\\Quorbel\\SPACE.INI", u"[Local]\r\nCatalogsDir=C:\\Cat\r\n");
     for (int k = 0; k < kCatalogos; ++k) anadeCatalogo(w, k, modelos);
     for (int i = 0; i < muebles; ++i) {
-        const int k = i * kCatalogos / muebles;
+        const int k = alterna ? i % kCatalogos : i * kCatalogos / muebles;
         const int32_t id = 10 + 10 * i;
         auto& o = w.scene.add(id);
         o.info = {{0, u"cocina" + num(k)},
@@ -107,13 +108,14 @@ void informa(benchmark::State& state, const Medida& total, int objetos) {
 
 void BM_EscenaCompleta(benchmark::State& state) {
     const int muebles = static_cast<int>(state.range(0));
+    const bool alterna = state.range(1) != 0;
     sim::CallSpec call;
     call.className = "Plugin";
     call.method = "OnSceneGenericFinishesAfter";
     Medida total;
     for (auto _ : state) {
         state.PauseTiming();
-        sim::World world = mundo(muebles, 200);
+        sim::World world = mundo(muebles, 200, alterna);
         state.ResumeTiming();
         const Medida m = juega(std::move(world), call);
         total.segundos += m.segundos;
@@ -142,7 +144,13 @@ void BM_Colocacion(benchmark::State& state) {
 
 }  // namespace
 
-BENCHMARK(BM_EscenaCompleta)->Arg(5000)->Arg(10000)->Unit(benchmark::kMillisecond)->Iterations(3);
+BENCHMARK(BM_EscenaCompleta)
+    ->ArgNames({"cabinets", "alternating"})
+    ->Args({5000, 0})
+    ->Args({10000, 0})
+    ->Args({10000, 1})
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(3);
 BENCHMARK(BM_Colocacion)->Arg(100)->Arg(200)->Unit(benchmark::kMicrosecond)->Iterations(50);
 
 BENCHMARK_MAIN();

@@ -1,7 +1,8 @@
 #include "handlers/HostCache.h"
 
-#include <map>
+#include <functional>
 #include <tuple>
+#include <unordered_map>
 
 #include "vb/Conversions.h"
 
@@ -12,9 +13,26 @@ namespace {
 using host::String;
 using host::Variant;
 
+// Hash of a key tuple of numbers and texts.
+struct HashClave {
+    template <class... T>
+    size_t operator()(const std::tuple<T...>& key) const {
+        size_t h = 0;
+        std::apply([&](const auto&... part) { ((h = h * 1000003u ^ hashDe(part)), ...); }, key);
+        return h;
+    }
+    template <class T>
+    static size_t hashDe(const T& part) {
+        return std::hash<T>{}(part);
+    }
+};
+
+template <class... T>
+using Memo = std::unordered_map<std::tuple<T...>, Variant, HashClave>;
+
 // A read answered once per key; `ask` reaches the host only on a miss.
-template <class Key, class Ask>
-Variant recuerda(std::map<Key, Variant>& memo, Key key, Ask ask) {
+template <class Map, class Key, class Ask>
+Variant recuerda(Map& memo, Key key, Ask ask) {
     auto it = memo.find(key);
     if (it != memo.end()) return it->second;
     Variant answer = ask();
@@ -35,7 +53,7 @@ class CachingAppli : public host::Appli {
         return in_->EndSession(s);
     }
     Variant GetLanguage(int32_t& s) override {
-        return recuerda(language_, s, [&] { return in_->GetLanguage(s); });
+        return recuerda(language_, std::tuple(s), [&] { return in_->GetLanguage(s); });
     }
     Variant GetCallParamsInfo(int32_t& s, int32_t code) override {
         return in_->GetCallParamsInfo(s, code);
@@ -48,7 +66,7 @@ class CachingAppli : public host::Appli {
 
   private:
     host::AppliRef in_;
-    std::map<int32_t, Variant> language_;
+    Memo<int32_t> language_;
 };
 
 class CachingScene : public host::Scene {
@@ -95,9 +113,9 @@ class CachingScene : public host::Scene {
     }
 
     host::SceneRef in_;
-    std::map<std::tuple<int32_t, int32_t, int32_t>, Variant> info_;
-    std::map<std::tuple<int32_t, int32_t, int16_t>, Variant> childrenNb_;
-    std::map<std::tuple<int32_t, int32_t, int32_t, int16_t>, Variant> childId_;
+    Memo<int32_t, int32_t, int32_t> info_;
+    Memo<int32_t, int32_t, int16_t> childrenNb_;
+    Memo<int32_t, int32_t, int32_t, int16_t> childId_;
 };
 
 // Reads of each catalogue are kept apart: loading catalogue A, then B, then A again answers A's
@@ -113,7 +131,7 @@ class CachingCatalog : public host::Catalog {
             actual_ = &porRuta_[path];
         } else {
             // Which catalogue is current now is the host's business: ask it afresh.
-            sinRuta_ = Memo{};
+            sinRuta_ = Lecturas{};
             actual_ = &sinRuta_;
         }
         return answer;
@@ -152,20 +170,20 @@ class CachingCatalog : public host::Catalog {
     }
 
   private:
-    using RankKey = std::tuple<int32_t, int32_t, int32_t, int16_t, String, bool>;
-    struct Memo {
-        std::map<std::tuple<int32_t, int32_t>, Variant> getInfo;
-        std::map<std::tuple<int32_t, String, String>, Variant> dico;
-        std::map<std::tuple<int32_t, int32_t, int16_t>, Variant> linesNb;
-        std::map<RankKey, Variant> byCode;
-        std::map<RankKey, Variant> byName;
-        std::map<std::tuple<int32_t, int32_t, int32_t, int32_t, int16_t>, Variant> lineInfo;
+    using RankMemo = Memo<int32_t, int32_t, int32_t, int16_t, String, bool>;
+    struct Lecturas {
+        Memo<int32_t, int32_t> getInfo;
+        Memo<int32_t, String, String> dico;
+        Memo<int32_t, int32_t, int16_t> linesNb;
+        RankMemo byCode;
+        RankMemo byName;
+        Memo<int32_t, int32_t, int32_t, int32_t, int16_t> lineInfo;
     };
 
     host::CatalogRef in_;
-    std::map<String, Memo> porRuta_;
-    Memo sinRuta_;  // before any load, or after a load that failed
-    Memo* actual_ = &sinRuta_;
+    std::unordered_map<String, Lecturas> porRuta_;
+    Lecturas sinRuta_;  // before any load, or after a load that failed
+    Lecturas* actual_ = &sinRuta_;
 };
 
 }  // namespace

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <map>
 #include <optional>
 #include <unordered_map>
 #include <vector>
@@ -34,7 +33,7 @@ class NombresTabla8 {
   private:
     int32_t& sessionId_;
     host::Catalog& catalog_;
-    std::map<String, std::optional<String>> names_;
+    std::unordered_map<String, std::optional<String>> names_;
 };
 
 // The rule text of a permission code; nothing when table 2 has no line for it.
