@@ -4,34 +4,39 @@
 
 #include "../rules/FakeHost.h"
 #include "handlers/Catalogo.h"
+#include "native/SimPlatform.h"
 #include "rules/ModVariables.h"
 
 namespace {
 
 using vb::String;
 
+// SPACE.INI as the simulated machine holds it, read through the native profile reader.
 struct IniCase {
     const char* name;
-    std::map<String, String> sections;
+    String ini;
     String expected;
 };
 
 const IniCase kIniCases[] = {
-    {"RemoteOnly", {{u"Remote", u"R:\\Cat"}}, u"R:\\Cat"},
-    {"LocalBeatsInSitu", {{u"InSitu", u"I:\\Cat"}, {u"Local", u"L:\\Cat"}}, u"L:\\Cat"},
-    {"InSituBeatsRemote", {{u"InSitu", u"I:\\Cat"}, {u"Remote", u"R:\\Cat"}}, u"I:\\Cat"},
-    {"None", {}, u""},
-    {"Exactly63", {{u"Local", String(63, u'a')}}, String(63, u'a')},
-    {"LongerIsCut", {{u"Local", String(70, u'b')}}, String(63, u'b')},
+    {"RemoteOnly", u"[Remote]\r\nCatalogsDir=R:\\Cat\r\n", u"R:\\Cat"},
+    {"LocalBeatsInSitu", u"[InSitu]\r\nCatalogsDir=I:\\Cat\r\n[Local]\r\nCatalogsDir=L:\\Cat\r\n",
+     u"L:\\Cat"},
+    {"InSituBeatsRemote", u"[Remote]\r\nCatalogsDir=R:\\Cat\r\n[InSitu]\r\nCatalogsDir=I:\\Cat\r\n",
+     u"I:\\Cat"},
+    {"None", u"[Local]\r\nOther=1\r\n", u""},
+    {"Exactly63", u"[Local]\r\nCatalogsDir=" + String(63, u'a') + u"\r\n", String(63, u'a')},
+    {"LongerIsCut", u"[Local]\r\nCatalogsDir=" + String(70, u'b') + u"\r\n", String(63, u'b')},
 };
 
 class Ini : public testing::TestWithParam<IniCase> {};
 
 TEST_P(Ini, SectionOrderAndCut) {
-    fake::Platform platform;
-    fake::Factory factory;
-    handlers::Env env{platform, factory};
-    platform.profile = GetParam().sections;
+    sim::World world;
+    world.files.putFile(u"C:\\Quorbel\\SPACE.INI", GetParam().ini);
+    sim::Simulation simulation(std::move(world));
+    native::SimPlatform platform(simulation);
+    handlers::Env env{platform, simulation.factory()};
     EXPECT_EQ(handlers::leeDirCatalogos(env), GetParam().expected);
 }
 
