@@ -1,0 +1,27 @@
+#pragma once
+// What each COM instance owns: the Win32 platform, the host factory and the Env over them.
+#include <functional>
+
+#include "com/ErrorBoundary.h"
+#include "handlers/Env.h"
+#include "host/DispatchHost.h"
+#include "platform/Win32Platform.h"
+#include "vb/Conversions.h"
+
+namespace quorbel {
+
+class Shell {
+  protected:
+    // Runs one entry point inside the error boundary, with the user's decimal separator.
+    HRESULT entry(const std::function<void()>& body) {
+        return guarded([&] {
+            vb::setDecimalSeparator(platform_.decimalSeparator());
+            body();
+        });
+    }
+    Win32Platform platform_;
+    DispatchFactory factory_;
+    handlers::Env env_{platform_, factory_, nullptr};
+};
+
+}  // namespace quorbel
