@@ -38,7 +38,7 @@ Check "failing call raises 429", (Err.Number And &HFFFF&) = 429
 Check "failing call description", Err.Description = "ActiveX component can't create object"
 Check "failing call source", Err.Source = "Quorbel"
 Err.Clear
-r = w.casoForma(7)
+r = w.OnObjectPlaceAfter(7)
 Check "Wizard failing call raises 429", (Err.Number And &HFFFF&) = 429
 On Error GoTo 0
 

@@ -74,7 +74,8 @@ HRESULT unregisterServer() {
         RegDeleteTreeW(HKEY_CLASSES_ROOT, (L"CLSID\\" + guidText(c.clsid)).c_str());
         RegDeleteTreeW(HKEY_CLASSES_ROOT, c.progId);
     }
-    UnRegisterTypeLib(LIBID_Quorbel, 1, 0, LOCALE_NEUTRAL, SYS_WIN32);
+    UnRegisterTypeLib(LIBID_Quorbel, 1, 0, LOCALE_NEUTRAL,
+                      sizeof(void*) == 8 ? SYS_WIN64 : SYS_WIN32);
     return S_OK;
 }
 
