@@ -25,6 +25,9 @@ Check "modeloValido by reference true", p.modeloValido(refer, code, script) = Tr
 refer = "@MOD1"
 Check "modeloValido by reference false", p.modeloValido(refer, code, script) = False
 Check "modeloValido keeps arguments", refer = "@MOD1" And script = "S"
+refer = String(200000, "x") & Chr(0) & "y" : script = Chr(0)
+Check "long string with NUL passes", p.modeloValido(refer, code, script) = True
+Check "long string comes back whole", Len(refer) = 200002
 refer = "W" : script = ""
 Check "Wizard modeloValido empty script", w.modeloValido(refer, code, script) = False
 
