@@ -1,6 +1,5 @@
 // Start-up, the menu item's callback and the diagnostic components method.
 #include "handlers/Entrada.h"
-#include "handlers/HostCache.h"
 #include "handlers/Plugin.h"
 #include "host/Session.h"
 #include "rules/ModVariables.h"
@@ -47,8 +46,7 @@ bool Plugin::OnObjectComponentsB(int32_t lCallParamsBlock) {
 
 bool componentesB(Env& env, int32_t lCallParamsBlock) {
     auto& mv = rules::modVariables();
-    CachingFactory factory(env.factory);
-    host::SessionScope scope(factory, {&mv.miAppli, &mv.miScene, nullptr, &mv.miSessionId},
+    host::SessionScope scope(env.factory, {&mv.miAppli, &mv.miScene, nullptr, &mv.miSessionId},
                              lCallParamsBlock);
     auto& scene = host::use(mv.miScene);
     const auto info = [&](int32_t code) {

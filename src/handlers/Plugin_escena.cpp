@@ -3,7 +3,6 @@
 #include <optional>
 
 #include "handlers/Catalogo.h"
-#include "handlers/HostCache.h"
 #include "handlers/Plugin.h"
 #include "handlers/Preparacion.h"
 #include "handlers/Textos.h"
@@ -24,11 +23,9 @@ struct Sesion {
 void procesaObjetoSesion(Plugin& plugin, Sesion sesion, int32_t objectId, String& concatenar,
                          int16_t& laFuncion, bool prepara) {
     auto& mv = rules::modVariables();
-    std::optional<CachingFactory> factory;
     std::optional<host::SessionScope> scope;
     if (!sesion.abierta) {
-        factory.emplace(plugin.env().factory);
-        scope.emplace(*factory,
+        scope.emplace(plugin.env().factory,
                       host::HostSlots{&mv.miAppli, &mv.miScene, &mv.miCatalog, &mv.miSessionId},
                       sesion.callParams);
         laFuncion = 3;
@@ -64,8 +61,7 @@ bool Plugin::OnSceneGenericFinishesAfter(int32_t lCallParamsBlock) {
     ultimoCatalogo = -1;
     String mensaje;
     auto& mv = rules::modVariables();
-    CachingFactory factory(env_.factory);
-    host::SessionScope scope(factory, {&mv.miAppli, &mv.miScene, &mv.miCatalog, &mv.miSessionId},
+    host::SessionScope scope(env_.factory, {&mv.miAppli, &mv.miScene, &mv.miCatalog, &mv.miSessionId},
                              lCallParamsBlock);
     Idiomas idiomas;
     idiomas.aplicacion = vb::CStr(host::use(mv.miAppli).GetLanguage(mv.miSessionId));

@@ -1,6 +1,5 @@
 // The placement and attribute-dialog checks of the object of the current event.
 #include "handlers/Catalogo.h"
-#include "handlers/HostCache.h"
 #include "handlers/Plugin.h"
 #include "handlers/Preparacion.h"
 #include "host/Session.h"
@@ -29,8 +28,7 @@ String textoDialogo(Env& env, int32_t handle, int32_t controlId) {
 
 bool Plugin::OnObjectPlaceAfter(int32_t lCallParamsBlock) {
     auto& mv = rules::modVariables();
-    CachingFactory factory(env_.factory);
-    host::SessionScope scope(factory, {&mv.miAppli, &mv.miScene, &mv.miCatalog, &mv.miSessionId},
+    host::SessionScope scope(env_.factory, {&mv.miAppli, &mv.miScene, &mv.miCatalog, &mv.miSessionId},
                              lCallParamsBlock);
     if (scope.isOpen()) {
         mv.dirCatalogos = leeDirCatalogos(env_) + u"\\";
@@ -51,8 +49,7 @@ bool Plugin::OnObjectPlaceAfter(int32_t lCallParamsBlock) {
 
 bool Plugin::OnObjectAttributsDlgValidation(int32_t lCallParamsBlock) {
     auto& mv = rules::modVariables();
-    CachingFactory factory(env_.factory);
-    host::SessionScope scope(factory, {&mv.miAppli, &mv.miScene, &mv.miCatalog, &mv.miSessionId},
+    host::SessionScope scope(env_.factory, {&mv.miAppli, &mv.miScene, &mv.miCatalog, &mv.miSessionId},
                              lCallParamsBlock);
     if (scope.isOpen()) {
         const int32_t handle = vb::CLng(

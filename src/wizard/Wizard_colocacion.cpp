@@ -2,7 +2,6 @@
 // Wizard's own host objects and session.
 #include <optional>
 
-#include "handlers/HostCache.h"
 #include "host/Session.h"
 #include "vb/Conversions.h"
 #include "vb/Strings.h"
@@ -35,8 +34,7 @@ std::optional<int32_t> numeroCatalogo(const String& numero) {
 }  // namespace
 
 bool Wizard::OnObjectPlaceAfter(int32_t lCallParamsBlock) {
-    handlers::CachingFactory factory(env_.factory);
-    host::SessionScope scope(factory, {&wAppli, &wScene, &wCatalog, &wSessionId}, lCallParamsBlock);
+    host::SessionScope scope(env_.factory, {&wAppli, &wScene, &wCatalog, &wSessionId}, lCallParamsBlock);
     bool result = false;
     if (scope.isOpen()) {
         const auto numero =
