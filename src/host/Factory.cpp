@@ -21,12 +21,24 @@ T& deref(const std::shared_ptr<T>& ref) {
 
 }  // namespace
 
-AppliRef createAppli(Factory& factory) { return createAs<Appli>(factory, kProgIdAppli); }
-SceneRef createScene(Factory& factory) { return createAs<Scene>(factory, kProgIdScene); }
-CatalogRef createCatalog(Factory& factory) { return createAs<Catalog>(factory, kProgIdCatalog); }
+AppliRef createAppli(Factory& factory) {
+    return createAs<Appli>(factory, kProgIdAppli);
+}
+SceneRef createScene(Factory& factory) {
+    return createAs<Scene>(factory, kProgIdScene);
+}
+CatalogRef createCatalog(Factory& factory) {
+    return createAs<Catalog>(factory, kProgIdCatalog);
+}
 
-Appli& use(const AppliRef& ref) { return deref(ref); }
-Scene& use(const SceneRef& ref) { return deref(ref); }
-Catalog& use(const CatalogRef& ref) { return deref(ref); }
+Appli& use(const AppliRef& ref) {
+    return deref(ref);
+}
+Scene& use(const SceneRef& ref) {
+    return deref(ref);
+}
+Catalog& use(const CatalogRef& ref) {
+    return deref(ref);
+}
 
 }  // namespace host

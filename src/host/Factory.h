@@ -11,7 +11,7 @@ inline const String kProgIdScene = u"Pelmora.Scene";
 inline const String kProgIdCatalog = u"Pelmora.Catalog";
 
 class Factory {
-public:
+  public:
     virtual ~Factory() = default;
     // Raises vb::RuntimeError (429 "ActiveX component can't create object" or the shell's own
     // description) when the object cannot be created.

@@ -14,13 +14,13 @@ using vb::String;
 using vb::Variant;
 
 class HostObject {
-public:
+  public:
     virtual ~HostObject() = default;
 };
 
 // "Pelmora.Appli"
 class Appli : public HostObject {
-public:
+  public:
     virtual Variant StartSessionFromCallParams(int32_t& callParamsBlock) = 0;
     virtual Variant EndSession(int32_t& sessionId) = 0;
     virtual Variant GetLanguage(int32_t& sessionId) = 0;
@@ -32,7 +32,7 @@ public:
 
 // "Pelmora.Scene"
 class Scene : public HostObject {
-public:
+  public:
     virtual Variant ObjectGetInfo(int32_t& sessionId, int32_t objectId, int32_t code) = 0;
     virtual Variant ObjectSetInfo(int32_t& sessionId, int32_t objectId, const String& value,
                                   int32_t code) = 0;
@@ -51,20 +51,18 @@ public:
 
 // "Pelmora.Catalog": works on the catalogue loaded last with FileLoad.
 class Catalog : public HostObject {
-public:
+  public:
     virtual Variant FileLoad(int32_t& sessionId, const String& path) = 0;
     virtual Variant GetInfo(int32_t& sessionId, int32_t code) = 0;
     virtual Variant DicoGetStringFromKey(int32_t& sessionId, const String& text,
                                          const String& language) = 0;
     virtual Variant TableGetLinesNb(int32_t& sessionId, int32_t table, int16_t zero) = 0;
     virtual Variant TableGetLineRankFromCode(int32_t& sessionId, int32_t table, int32_t zero,
-                                             int16_t selector, const String& code,
-                                             bool flag) = 0;
+                                             int16_t selector, const String& code, bool flag) = 0;
     virtual Variant TableGetLineRankFromName(int32_t& sessionId, int32_t table, int32_t zero,
-                                             int16_t selector, const String& name,
-                                             bool flag) = 0;
-    virtual Variant TableGetLineInfo(int32_t& sessionId, int32_t table, int32_t zero,
-                                     int32_t rank, int16_t column) = 0;
+                                             int16_t selector, const String& name, bool flag) = 0;
+    virtual Variant TableGetLineInfo(int32_t& sessionId, int32_t table, int32_t zero, int32_t rank,
+                                     int16_t column) = 0;
     virtual Variant FileExportResource(int32_t& sessionId, int32_t rank, const String& path) = 0;
 };
 

@@ -19,6 +19,8 @@ SessionScope::~SessionScope() {
     slots_.appli->reset();
 }
 
-void SessionScope::endSession() { use(*slots_.appli).EndSession(*slots_.sessionId); }
+void SessionScope::endSession() {
+    use(*slots_.appli).EndSession(*slots_.sessionId);
+}
 
 }  // namespace host

@@ -17,7 +17,7 @@ struct HostSlots {
 };
 
 class SessionScope {
-public:
+  public:
     // Creates the objects named by `slots` and sets *slots.sessionId from
     // StartSessionFromCallParams(callParamsBlock).
     SessionScope(Factory& factory, HostSlots slots, int32_t callParamsBlock);
@@ -28,7 +28,7 @@ public:
     bool isOpen() const { return *slots_.sessionId != 0; }
     void endSession();  // EndSession(sessionId) on the application object
 
-private:
+  private:
     HostSlots slots_;
 };
 

@@ -23,7 +23,7 @@ struct DirEntry {
 inline const String kTituloComponente = u"Quorbel";
 
 class Platform {
-public:
+  public:
     virtual ~Platform() = default;
 
     // GetPrivateProfileStringA: sections and keys match without regard to case; at most

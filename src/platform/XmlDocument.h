@@ -10,7 +10,7 @@
 namespace platform {
 
 class XmlNode {
-public:
+  public:
     virtual ~XmlNode() = default;
     virtual vb::String nodeName() const = 0;
     // The concatenated text of the node and its descendants, as DOM's `text`.
@@ -20,7 +20,7 @@ public:
 };
 
 class XmlDocument {
-public:
+  public:
     virtual ~XmlDocument() = default;
     // Returns false (and leaves the document empty) when the text does not load.
     virtual bool loadXML(const vb::String& text) = 0;

@@ -9,7 +9,7 @@
 namespace rules {
 
 void iniciaPrefijosEsp();
-void buscaHijosEsp(const std::vector<String>& prefijos);                    // object -2
+void buscaHijosEsp(const std::vector<String>& prefijos);  // object -2
 void buscaHijosEspDe(const std::vector<String>& prefijos, int32_t objectId);
 bool estaEnLista(const String& value, const ListaExcepciones& lista);
 

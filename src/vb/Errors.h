@@ -28,7 +28,7 @@ constexpr int kAutomation = 440;
 String standardDescription(int number);
 
 class RuntimeError : public std::exception {
-public:
+  public:
     explicit RuntimeError(int number);  // with the standard description
     RuntimeError(int number, String description);
 
@@ -36,7 +36,7 @@ public:
     const String& description() const { return description_; }
     const char* what() const noexcept override { return what_.c_str(); }
 
-private:
+  private:
     int number_;
     String description_;
     std::string what_;

@@ -13,8 +13,8 @@ enum class Compare { Binary, Text };
 int InStr(const String& text, const String& find, Compare mode, int start = 1);  // 0 = absent
 // Empty pieces kept; empty text gives no piece (as VB), an empty separator the whole text.
 std::vector<String> Split(const String& text, const String& separator);
-String Mid(const String& text, int start);                 // raises 5 when start < 1
-String Mid(const String& text, int start, int length);     // raises 5 when start < 1 or length < 0
+String Mid(const String& text, int start);              // raises 5 when start < 1
+String Mid(const String& text, int start, int length);  // raises 5 when start < 1 or length < 0
 String Left(const String& text, int length);
 String Right(const String& text, int length);
 int Len(const String& text);

@@ -12,7 +12,7 @@ using String = std::u16string;
 enum class VarType { Empty, Null, Boolean, Integer, Long, Double, String };
 
 class Variant {
-public:
+  public:
     Variant() = default;
     Variant(bool b) : v_(b) {}
     Variant(int16_t i) : v_(i) {}
@@ -40,7 +40,7 @@ public:
 
     bool operator==(const Variant& o) const { return v_ == o.v_; }
 
-private:
+  private:
     struct NullTag {
         bool operator==(const NullTag&) const { return true; }
     };
