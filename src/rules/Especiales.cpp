@@ -1,9 +1,7 @@
 #include "rules/Especiales.h"
 
 #include <algorithm>
-#include <array>
 #include <optional>
-#include <unordered_map>
 #include <vector>
 
 #include "vb/Conversions.h"
@@ -13,29 +11,6 @@ namespace rules {
 
 namespace {
 
-// Model names of table 8 by code, each code asked of the host once per fill.
-class NombresTabla8 {
-  public:
-    NombresTabla8(int32_t& sessionId, host::Catalog& catalog)
-        : sessionId_(sessionId), catalog_(catalog) {}
-
-    // The model name of the code, or nothing when table 8 has no line for it.
-    const std::optional<String>& nombre(const String& code) {
-        auto it = names_.find(code);
-        if (it != names_.end()) return it->second;
-        std::optional<String> name;
-        const int32_t r =
-            vb::CLng(catalog_.TableGetLineRankFromCode(sessionId_, 8, 0, 1, code, false));
-        if (r > 0) name = vb::CStr(catalog_.TableGetLineInfo(sessionId_, 8, 0, r, 3));
-        return names_.emplace(code, std::move(name)).first->second;
-    }
-
-  private:
-    int32_t& sessionId_;
-    host::Catalog& catalog_;
-    std::unordered_map<String, std::optional<String>> names_;
-};
-
 // The rule text of a permission code; nothing when table 2 has no line for it.
 std::optional<String> reglaDe(int32_t& sessionId, host::Catalog& catalog, const String& code) {
     const int32_t rank =
@@ -44,36 +19,55 @@ std::optional<String> reglaDe(int32_t& sessionId, host::Catalog& catalog, const 
     return vb::CStr(catalog.TableGetLineInfo(sessionId, 2, 0, rank, 2));
 }
 
-// The rows of `modelos` by model name, built once per fill.
-using FilasPorNombre = std::unordered_map<String, std::vector<int>>;
+// The rule's text after its first three characters.
+String restoDe(const String& regla) {
+    return regla.size() > 3 ? regla.substr(3) : String();
+}
 
-FilasPorNombre filasPorNombre(const ModVariables& mv) {
-    FilasPorNombre filas;
-    const int n = std::min<int>(mv.numModelos, static_cast<int>(mv.modelos.size()));
-    for (int m = 0; m < n; ++m) filas[mv.modelos[m]].push_back(m);
-    return filas;
+// Some listed code, looked up in table 8 in list order, names the model; the list stops at
+// the first that does.
+bool codigoNombra(int32_t& sessionId, host::Catalog& catalog, const std::vector<String>& codes,
+                  const String& model) {
+    for (const auto& code : codes) {
+        const int32_t r =
+            vb::CLng(catalog.TableGetLineRankFromCode(sessionId, 8, 0, 1, code, false));
+        if (r > 0 && vb::CStr(catalog.TableGetLineInfo(sessionId, 8, 0, r, 3)) == model) {
+            return true;
+        }
+    }
+    return false;
+}
+
+const String& modeloDe(const ModVariables& mv, int m) {
+    static const String kSinNombre;
+    return m < static_cast<int>(mv.modelos.size()) ? mv.modelos[m] : kSinNombre;
 }
 
 void marcaTodos(ModVariables& mv, int k, bool valor) {
     for (int m = 0; m < mv.numModelos; ++m) mv.permisosModelo[m][k] = valor;
 }
 
-// A model is allowed when some listed code that table 8 knows names it.
-void llenaTipo(ModVariables& mv, int k, const std::optional<String>& regla, bool reglaAll,
-               NombresTabla8& tabla, const FilasPorNombre& filas) {
-    marcaTodos(mv, k, false);
-    if (!regla) return;
-    const String rest = regla->size() > 3 ? regla->substr(3) : String();
-    if (reglaAll && rest == u" ALL") {
-        marcaTodos(mv, k, true);
-        return;
+// One permission line per kind, the list looked up anew for every model.
+void llenaTipo(ModVariables& mv, int k, int32_t& sessionId, host::Catalog& catalog,
+               const String& code) {
+    const auto regla = reglaDe(sessionId, catalog, code);
+    if (!regla) return marcaTodos(mv, k, false);
+    const String rest = restoDe(*regla);
+    if (rest == u" ALL") return marcaTodos(mv, k, true);
+    const auto codes = vb::Split(rest, u" ");
+    for (int m = 0; m < mv.numModelos; ++m) {
+        mv.permisosModelo[m][k] = codigoNombra(sessionId, catalog, codes, modeloDe(mv, m));
     }
-    for (const auto& code : vb::Split(rest, u" ")) {
-        const auto& name = tabla.nombre(code);
-        if (!name) continue;
-        const auto it = filas.find(*name);
-        if (it == filas.end()) continue;
-        for (int m : it->second) mv.permisosModelo[m][k] = true;
+}
+
+// No " ALL" rule, and the permission line looked up again for every model.
+void llenaTipoPorModelo(ModVariables& mv, int k, int32_t& sessionId, host::Catalog& catalog,
+                        const String& code) {
+    for (int m = 0; m < mv.numModelos; ++m) {
+        const auto regla = reglaDe(sessionId, catalog, code);
+        mv.permisosModelo[m][k] =
+            regla &&
+            codigoNombra(sessionId, catalog, vb::Split(restoDe(*regla), u" "), modeloDe(mv, m));
     }
 }
 
@@ -118,14 +112,14 @@ void InicEspMod(int32_t& sessionId, host::Catalog& catalog, bool reglaAll, int k
     auto& mv = modVariables();
     dimensionaMatriz(mv);
     if (mv.numModelos <= 0) return;  // no door model: every kind stays forbidden
-    NombresTabla8 tabla(sessionId, catalog);
-    const FilasPorNombre filas = filasPorNombre(mv);
     kinds = std::clamp(kinds, 0, kNumTipos);
     for (int k = 0; k < kinds; ++k) {
         const String code = k < static_cast<int>(mv.codigosMO.size()) ? mv.codigosMO[k] : String();
-        // The line of a kind gives the same answer for every model within one fill, so one
-        // look-up serves all models (also where it was asked once per model).
-        llenaTipo(mv, k, reglaDe(sessionId, catalog, code), reglaAll, tabla, filas);
+        if (reglaAll) {
+            llenaTipo(mv, k, sessionId, catalog, code);
+        } else {
+            llenaTipoPorModelo(mv, k, sessionId, catalog, code);
+        }
     }
 }
 
@@ -135,10 +129,7 @@ void InicEspMod2() {
     const int kinds = std::clamp<int>(mv.numTiposEsp, 0, kNumTipos);
     for (int k = 0; k < kinds; ++k) {
         for (int m = 0; m < mv.numModelos; ++m) {
-            static const String kSinNombre;
-            const String& model =
-                m < static_cast<int>(mv.modelos.size()) ? mv.modelos[m] : kSinNombre;
-            mv.permisosModelo[m][k] = permisoFijo(k, model);
+            mv.permisosModelo[m][k] = permisoFijo(k, modeloDe(mv, m));
         }
     }
 }

@@ -9,8 +9,9 @@ namespace rules {
 
 void InicEsp();  // codigosMO
 
-// Fills permisosModelo from the catalogue's "MO_" lines. `reglaAll`: a rule of " ALL" allows
-// every model (InicEspMod); without it that rule is looked up as codes (InicEspMod3).
+// Fills permisosModelo from the catalogue's "MO_" lines, asking the host for every model's
+// codes in turn. `reglaAll` (InicEspMod): one line per kind, and " ALL" allows every model.
+// Without it (InicEspMod3): the line is read again for each model and " ALL" is a code list.
 void InicEspMod(int32_t& sessionId, host::Catalog& catalog, bool reglaAll, int kinds = kNumTipos);
 
 void InicEspMod2();  // the fixed rule, no catalogue access

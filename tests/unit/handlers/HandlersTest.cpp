@@ -161,11 +161,18 @@ void catalogoGrande(fake::Catalog& c, int modelos, int codigos) {
     }
 }
 
-TEST_F(Handlers, PlacementAsksTheHostAtMost2000Times) {
-    catalogoGrande(*host.catalog, 200, 50);
+// The permission fill asks table 8 for each model's codes in list order, up to the first that
+// names the model: "", M0 for MODELO 0; "", M0, M3 for the three others; per kind.
+TEST_F(Handlers, PlacementLooksEveryModelsCodesUp) {
+    host.catalog->tables[2].pop_back();  // the fixture's own MO_EA line
+    catalogoGrande(*host.catalog, 4, 2);
     host.calls = {};
     plugin.OnObjectPlaceAfter(7);
-    EXPECT_LE(host.calls.total, 2000);
+    EXPECT_TRUE(platform.messages.empty());
+    const int porTipo = 1 + 2 + 3 + 3 + 3;  // the MO_ line, then the models' codes
+    EXPECT_EQ(host.calls.byMember["TableGetLineRankFromCode"], 7 + 7 * porTipo);  // EX_ lines
+    const int lecturasPorTipo = 1 + 1 + 2 + 2 + 2;
+    EXPECT_EQ(host.calls.byMember["TableGetLineInfo"], 4 * 3 + 7 + 7 * lecturasPorTipo + 3);
 }
 
 TEST_F(Handlers, SceneWideAsksAtMost25TimesPerCabinetOfTheSameCatalogue) {

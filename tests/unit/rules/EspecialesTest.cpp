@@ -76,12 +76,23 @@ TEST_F(Catalogo, NoDoorModelLeavesAnEmptyMatrix) {
     EXPECT_FALSE(rules::permiso(mv, 0, 0));
 }
 
-TEST_F(Catalogo, EachTable8CodeAskedOncePerFill) {
-    regla(u"MO_EA", u"abc M01 M02");
-    regla(u"MO_EAl", u"abc M01 M02");
-    host.calls = {};
-    rules::InicEspMod(session, *host.catalog, false);
-    EXPECT_EQ(host.calls.byMember["TableGetLineRankFromCode"], 7 + 3);  // 7 lines, "", M01, M02
+// Every model looks its codes up in table 8 in list order, up to the first that names it;
+// the second form also reads the permission line once per model.
+TEST_F(Catalogo, HostAskedForEveryModelsCodes) {
+    regla(u"MO_EA", u"abc M01 M02");   // TIBER: "", M01; MONZA and MIAMI: "", M01, M02
+    regla(u"MO_EAl", u"abc M01 M02");  // five kinds without a line
+    struct Caso {
+        bool reglaAll;
+        int rankFromCode, lineInfo;
+    } casos[] = {{true, 2 * (1 + 2 + 3 + 3) + 5, 2 * (1 + 1 + 2 + 2)},
+                 {false, 2 * (3 + 2 + 3 + 3) + 5 * 3, 2 * (3 + 1 + 2 + 2)}};
+    for (const auto& caso : casos) {
+        host.calls = {};
+        rules::InicEspMod(session, *host.catalog, caso.reglaAll);
+        EXPECT_EQ(host.calls.byMember["TableGetLineRankFromCode"], caso.rankFromCode);
+        EXPECT_EQ(host.calls.byMember["TableGetLineInfo"], caso.lineInfo);
+        EXPECT_EQ(columna(0), (std::vector<bool>{true, true, false}));
+    }
 }
 
 TEST_F(Catalogo, FixedRule) {
