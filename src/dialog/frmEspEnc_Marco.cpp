@@ -117,10 +117,11 @@ void frmEspEnc::traduceControles() {
         if (vb::InStr(c.Tag, u"TR_", vb::Compare::Text) == 0) return;
         int32_t rango = CLng(catalog.TableGetLineRankFromCode(sid, 2, 0, 1, c.Tag, false));
         if (ImageDiagonal[0].Enabled || !vb::equalText(c.Tag, u"TR_0023")) {
-            // A key without a line keeps the designed caption.
-            if (rango > 0 && caption)
-                *caption =
-                    handlers::traduce(id, CStr(catalog.TableGetLineInfo(sid, 2, 0, rango, 9)));
+            // Every tagged control reads its cell and translates it, whatever the rank; a key
+            // without a line keeps the designed caption.
+            String texto =
+                handlers::traduce(id, CStr(catalog.TableGetLineInfo(sid, 2, 0, rango, 9)));
+            if (rango > 0 && caption) *caption = texto;
             return;
         }
         int32_t r43 = CLng(catalog.TableGetLineRankFromCode(sid, 2, 0, 1, u"TR_0043", false));

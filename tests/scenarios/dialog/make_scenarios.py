@@ -207,6 +207,9 @@ SCENARIOS = {
     "hundreds_of_components": [call([lclick(4, 0), lclick(4, 119), lclick(3, 250), ACCEPT])],
     # Picture names that would leave the temporary folder or name a device are not exported.
     "picture_names": [call([lclick(4, 0), lclick(4, 2), SNAP, EXIT])],
+    # Keys without a line in table 2: each cell is still read and translated, and the
+    # control keeps its designed caption.
+    "captions_missing_keys": [call([SNAP, EXIT])],
 }
 
 
@@ -274,6 +277,11 @@ def catalogues_for(name):
         return {"C:\\Cat\\cocina.cat": offered_catalogue()}
     if name == "wizard_catalogues":
         return {"C:\\Cat\\cocina.cat": catalogue(), "C:\\Cat\\forma10.cat": catalogue()}
+    if name == "captions_missing_keys":
+        cat = catalogue()
+        missing = {"TR_0002", "TR_0027", "TR_0024"}
+        cat["tables"]["2"] = [l for l in cat["tables"]["2"] if l["code"] not in missing]
+        return {"C:\\Cat\\cocina.cat": cat}
     return None
 
 
@@ -292,7 +300,7 @@ DEMO_FILE = os.path.join(HERE, "..", "..", "..", "samples", "dialog", "12_dialog
 def main():
     for name, calls in SCENARIOS.items():
         data = world(scene_for(name), calls, catalogues_for(name))
-        if name == "captions_translated":
+        if name in ("captions_translated", "captions_missing_keys"):
             data["application"]["language"] = "ENG"
             data["application"]["dictionary"] = english_dictionary()
         if name == "languages_same_ignoring_case":
