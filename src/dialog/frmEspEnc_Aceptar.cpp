@@ -122,7 +122,8 @@ void frmEspEnc::compruebaMedidas(Pasada& p, const double* min, const double* max
         if (k == 0 || p.enLimites) {
             p.enLimites = dentro;
             if (!dentro) p.erroresMedidas = linea();
-        } else if (!dentro) {
+        } else if (!v || (*v < min[k] && *v <= max[k])) {
+            // After an earlier failure only a value below its minimum adds its line.
             p.erroresMedidas += linea();
         }
     }

@@ -210,6 +210,11 @@ SCENARIOS = {
     # Keys without a line in table 2: each cell is still read and translated, and the
     # control keeps its designed caption.
     "captions_missing_keys": [call([SNAP, EXIT])],
+    # All three measures special: width above its maximum fails first; then a height above
+    # its maximum adds no line and a depth below its minimum adds one.
+    "limits_after_a_failure": [call([typed("TextMedEsp", 0, "1300"),
+                                     typed("TextMedEsp", 1, "1000"),
+                                     typed("TextMedEsp", 2, "200"), ACCEPT, EXIT])],
 }
 
 
@@ -251,6 +256,8 @@ def scene_for(name):
                 cabinet()]
     if name == "missing_catalogue":
         return [cabinet(400, file_name="perdido")]
+    if name == "limits_after_a_failure":
+        return [cabinet(width="650", height="750", depth="600")]
     return [cabinet()]
 
 
