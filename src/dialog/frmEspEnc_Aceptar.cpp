@@ -73,7 +73,7 @@ bool enRango(std::optional<int32_t> v, double min, double max) {
 struct frmEspEnc::Pasada {
     handlers::Idiomas idiomas;
     bool cambiado = true, enLimites = true, documento = true, diagonal = true;
-    String erroresMedidas, medidasSinCambio, claveErrorCajeos, errorDiagonal, rotuloDiagonal;
+    String erroresMedidas, medidasSinCambio, errorCajeos, errorDiagonal, rotuloDiagonal;
 };
 
 void frmEspEnc::btnAcptComp_Click() {
@@ -96,7 +96,7 @@ void frmEspEnc::btnAcptComp_Click() {
     } else if (!p.medidasSinCambio.empty() && vb::equalText(estadoCambios, estadoInicial)) {
         aviso(texto(u"TR_9003") + p.medidasSinCambio, texto(u"TR_9004"));
     } else if (!p.documento) {
-        aviso(texto(p.claveErrorCajeos), texto(u"TR_9006"));
+        aviso(p.errorCajeos, texto(u"TR_9006"));
     } else if (p.diagonal) {
         escriturasReducidas();
     } else {
@@ -133,12 +133,13 @@ void frmEspEnc::compruebaCajeos(Pasada& p) {
     textoCajeosNuevo = CadenaCajeos();
     mv_.docCajeos = plataforma().createXmlDocument();
     mv_.docCajeos->loadXML(textoCajeosNuevo);
+    // Each failure looks its text up at once; the last one found is the one reported.
     auto falla = [&](const String& clave) {
         textoCajeosNuevo.clear();
         p.documento = false;
-        p.claveErrorCajeos = clave;  // the last error found is the one reported
+        p.errorCajeos = textoClave(p.idiomas, clave);
     };
-    std::optional<int64_t> valor;
+    std::optional<int64_t> valor = 0;  // 0 until a VALOR is read
     for (const auto& param : mv_.docCajeos->getElementsByTagName(u"PARAM")) {
         if (!param->hasChildNodes()) continue;
         for (const auto& hijo : param->childNodes()) {

@@ -215,6 +215,9 @@ SCENARIOS = {
     "limits_after_a_failure": [call([typed("TextMedEsp", 0, "1300"),
                                      typed("TextMedEsp", 1, "1000"),
                                      typed("TextMedEsp", 2, "200"), ACCEPT, EXIT])],
+    # Two recess values left empty: the missing-value text is looked up at each of them.
+    "recess_values_missing": [call([lclick(4, 0), typed("TxtValoresEnc", 0, "\b"),
+                                    typed("TxtValoresEnc", 1, "\b"), ACCEPT, EXIT])],
 }
 
 
