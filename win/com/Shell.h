@@ -1,8 +1,10 @@
 #pragma once
-// What each COM instance owns: the Win32 platform, the host factory and the Env over them.
+// What each COM instance owns: the Win32 platform, the host factory, the dialog's window view
+// and the Env over them.
 #include <functional>
 
 #include "com/ErrorBoundary.h"
+#include "dialog/Win32DialogView.h"
 #include "handlers/Env.h"
 #include "host/DispatchHost.h"
 #include "platform/Win32Platform.h"
@@ -21,7 +23,8 @@ class Shell {
     }
     Win32Platform platform_;
     DispatchFactory factory_;
-    handlers::Env env_{platform_, factory_, nullptr};
+    Win32DialogView dialogView_{platform_};
+    handlers::Env env_{platform_, factory_, &dialogView_};
 };
 
 }  // namespace quorbel

@@ -102,7 +102,8 @@ void Win32Platform::messageBox(const vb::String& text, const vb::String& caption
     UINT style = MB_OK | MB_TASKMODAL;
     if (icon == platform::MsgIcon::Information) style |= MB_ICONINFORMATION;
     if (icon == platform::MsgIcon::Critical) style |= MB_ICONSTOP;
-    MessageBoxW(GetActiveWindow(), wide(text).c_str(), wide(caption).c_str(), style);
+    MessageBoxW(messageBoxOwner_ ? messageBoxOwner_ : GetActiveWindow(), wide(text).c_str(),
+                wide(caption).c_str(), style);
 }
 
 void Win32Platform::beep() {

@@ -1,5 +1,7 @@
 #pragma once
 // platform::Platform over the Win32 API.
+#include <windows.h>
+
 #include "platform/Platform.h"
 
 namespace quorbel {
@@ -21,6 +23,12 @@ class Win32Platform : public platform::Platform {
     vb::String moduleFolder() override;
     char16_t decimalSeparator() override;
     std::unique_ptr<platform::XmlDocument> createXmlDocument() override;
+
+    // While the dialog is open its message boxes are owned by it; null: the active window.
+    void setMessageBoxOwner(HWND owner) { messageBoxOwner_ = owner; }
+
+  private:
+    HWND messageBoxOwner_ = nullptr;
 };
 
 }  // namespace quorbel
