@@ -139,7 +139,9 @@ void frmEspEnc::compruebaCajeos(Pasada& p) {
         p.documento = false;
         p.errorCajeos = textoClave(p.idiomas, clave);
     };
-    std::optional<int64_t> valor = 0;  // 0 until a VALOR is read
+    // 0 until a VALOR is read; a VALOR that is not an integer leaves no value to compare.
+    int64_t valor = 0;
+    bool hayValor = true;
     for (const auto& param : mv_.docCajeos->getElementsByTagName(u"PARAM")) {
         if (!param->hasChildNodes()) continue;
         for (const auto& hijo : param->childNodes()) {
@@ -154,11 +156,14 @@ void frmEspEnc::compruebaCajeos(Pasada& p) {
             auto n = enteroExacto(t);
             if (!n) {
                 falla(u"TR_9011");
-                if (esValor) valor.reset();
+                if (esValor) hayValor = false;
                 continue;
             }
-            if (esValor) valor = n;
-            if (esMaximo && valor && *valor > *n) falla(u"TR_9010");
+            if (esValor) {
+                valor = *n;
+                hayValor = true;
+            }
+            if (esMaximo && hayValor && valor > *n) falla(u"TR_9010");
         }
     }
 }
