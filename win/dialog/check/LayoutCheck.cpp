@@ -1,51 +1,19 @@
-// dialog-layout-check: opens the dialog as designed (every control shown, no host needed),
-// measures the real controls and fails on overlap or clipped text.
-//   dialog-layout-check [--long] [--hold SECONDS]
-// --long lengthens every translated caption (a longer translation); --hold keeps the dialog
-// open for a screenshot instead of checking. Prints one line per fault and a summary.
-#include <windows.h>
-
+// The layout check: the dialog as designed with every control shown, measured through the
+// real windows; fails on overlapping controls, a control cut by its container or the screen,
+// or a caption that does not fit its control.
 #include <cstdio>
-#include <cstring>
 #include <string>
 #include <vector>
 
-#include "dialog/DialogWindow.h"
+#include "Harness.h"
 #include "dialog/Registro.h"
 #include "dialog/WindowProps.h"
-#include "host/Factory.h"
-#include "platform/Platform.h"
+
+namespace quorbel::check {
 
 namespace {
 
-using quorbel::props::ControlKind;
-using vb::String;
-
-// Nothing of the host is used while the designed form is only shown.
-class NoPlatform : public platform::Platform {
-  public:
-    uint32_t GetPrivateProfileString(const String&, const String&, const String&, String& b,
-                                     uint32_t, const String&) override {
-        b.clear();
-        return 0;
-    }
-    String GetDlgItemText(int32_t, int32_t, int32_t) override { return {}; }
-    std::vector<platform::DirEntry> dir(const String&, bool) override { return {}; }
-    int64_t fileLength(const String&) override { return 0; }
-    bool folderExists(const String&) override { return false; }
-    void createFolder(const String&) override {}
-    std::vector<String> readTextLines(const String&) override { return {}; }
-    void messageBox(const String&, const String&, platform::MsgIcon) override {}
-    void beep() override {}
-    String moduleFolder() override { return u"C:\\"; }
-    char16_t decimalSeparator() override { return u'.'; }
-    std::unique_ptr<platform::XmlDocument> createXmlDocument() override { return nullptr; }
-};
-
-class NoFactory : public host::Factory {
-  public:
-    std::shared_ptr<host::HostObject> CreateObject(const String&) override { return nullptr; }
-};
+using props::ControlKind;
 
 struct Measured {
     HWND hwnd;
@@ -56,18 +24,12 @@ struct Measured {
 };
 
 std::vector<Measured> controls;
-int faults = 0;
-
-void fault(const std::wstring& what) {
-    ++faults;
-    std::printf("FAIL %ls\n", what.c_str());
-}
 
 BOOL CALLBACK collect(HWND h, LPARAM) {
-    if (!quorbel::props::hasInt(h, quorbel::props::kKind)) return TRUE;
-    Measured m{h, quorbel::props::getString(h, quorbel::props::kControl),
-               static_cast<ControlKind>(quorbel::props::getInt(h, quorbel::props::kKind)), RECT{},
-               quorbel::props::getInt(h, quorbel::props::kGroup)};
+    if (!props::hasInt(h, props::kKind)) return TRUE;
+    Measured m{h, props::getString(h, props::kControl),
+               static_cast<ControlKind>(props::getInt(h, props::kKind)), RECT{},
+               props::getInt(h, props::kGroup)};
     GetWindowRect(h, &m.screen);
     if (IsWindowVisible(h)) controls.push_back(m);
     return TRUE;
@@ -75,7 +37,7 @@ BOOL CALLBACK collect(HWND h, LPARAM) {
 
 bool insideScrolledPanel(HWND h) {
     for (HWND p = h; p; p = GetParent(p))
-        if (quorbel::props::getString(p, quorbel::props::kControl) == L"picin#0") return true;
+        if (props::getString(p, props::kControl) == L"picin#0") return true;
     return false;
 }
 
@@ -153,34 +115,20 @@ void checkOnScreen(HWND dialog) {
         fault(L"the dialog is larger than the screen");
 }
 
-int holdSeconds = 0;
-
-void CALLBACK measure(HWND, UINT, UINT_PTR id, DWORD) {
-    KillTimer(nullptr, id);
-    HWND dialog = FindWindowW(quorbel::props::kDialogClass, nullptr);
-    if (!dialog) {
-        fault(L"no dialog window");
-        return;
-    }
-    if (holdSeconds == 0) {
-        EnumChildWindows(dialog, collect, 0);
-        checkOnScreen(dialog);
-        checkInsideParents(dialog);
-        checkOverlaps();
-        for (const Measured& m : controls) checkText(m);
-        HDC screen = GetDC(nullptr);
-        std::printf("%zu controls measured at %d dpi, %d faults\n", controls.size(),
-                    GetDeviceCaps(screen, LOGPIXELSY), faults);
-        ReleaseDC(nullptr, screen);
-    } else {
-        Sleep(static_cast<DWORD>(holdSeconds) * 1000);
-    }
-    PostMessageW(dialog, WM_CLOSE, 0, 0);
+void measure(HWND dialog) {
+    EnumChildWindows(dialog, collect, 0);
+    checkOnScreen(dialog);
+    checkInsideParents(dialog);
+    checkOverlaps();
+    for (const Measured& m : controls) checkText(m);
+    HDC screen = GetDC(nullptr);
+    std::printf("%zu controls measured at %d dpi\n", controls.size(),
+                GetDeviceCaps(screen, LOGPIXELSY));
+    ReleaseDC(nullptr, screen);
 }
 
 // Every control shown, each translated caption made longer when asked.
 void prepare(dialog::frmEspEnc& form, bool longer) {
-    form.Caption = u"Edici\u00F3n de especiales - B60-TIBER";
     form.EtiqTituloEnc[0].Caption = u"Encastre de pilar 1";
     form.EtiqValorEnc[0].Caption = u"Profundidad";
     dialog::paraCadaControl(form, [&](const char16_t*, auto* c, size_t n) {
@@ -195,25 +143,15 @@ void prepare(dialog::frmEspEnc& form, bool longer) {
 
 }  // namespace
 
-int main(int argc, char** argv) {
-    bool longer = false;
-    for (int i = 1; i < argc; ++i) {
-        if (std::strcmp(argv[i], "--long") == 0) longer = true;
-        if (std::strcmp(argv[i], "--hold") == 0 && i + 1 < argc) holdSeconds = std::atoi(argv[++i]);
-    }
-    NoPlatform platform;
-    NoFactory factory;
-    handlers::Env env{platform, factory, nullptr};
-    dialog::frmEspEnc form(env);
-    prepare(form, longer);
-    SetTimer(nullptr, 0, 300, measure);
-    try {
-        quorbel::DialogWindow window(form);
-        window.runModal(nullptr);
-    } catch (...) {
-        // Closing runs the form's unload, which needs a host: expected here.
-    }
-    std::printf("%s\n", faults == 0 ? "layout ok" : "layout FAILED");
-    std::fflush(stdout);
-    return faults == 0 ? 0 : 1;
+int layoutChecks(bool longer, int holdSeconds) {
+    showForm([&](dialog::frmEspEnc& form) { prepare(form, longer); },
+             [&](HWND dialog) {
+                 if (holdSeconds > 0)
+                     Sleep(static_cast<DWORD>(holdSeconds) * 1000);
+                 else
+                     measure(dialog);
+             });
+    return faults();
 }
+
+}  // namespace quorbel::check
