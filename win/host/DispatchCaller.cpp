@@ -38,10 +38,27 @@ Arg Arg::str(const vb::String& v) {
     if (!V_BSTR(&a.v_)) throw vb::RuntimeError(7, u"Out of memory");
     return a;
 }
-Arg::Arg(Arg&& o) noexcept : v_(o.v_) {
+static vb::String fromBstr(BSTR b);
+
+Arg Arg::strRef(vb::String& v) {
+    Arg a;
+    a.refStr_ =
+        SysAllocStringLen(reinterpret_cast<const OLECHAR*>(v.data()), static_cast<UINT>(v.size()));
+    if (!a.refStr_) throw vb::RuntimeError(7, u"Out of memory");
+    a.target_ = &v;
+    V_VT(&a.v_) = VT_BSTR | VT_BYREF;
+    V_BSTRREF(&a.v_) = &a.refStr_;
+    return a;
+}
+Arg::Arg(Arg&& o) noexcept : v_(o.v_), refStr_(o.refStr_), target_(o.target_) {
+    if (target_) V_BSTRREF(&v_) = &refStr_;  // points at this argument's own storage
     V_VT(&o.v_) = VT_EMPTY;
+    o.refStr_ = nullptr;
+    o.target_ = nullptr;
 }
 Arg::~Arg() {
+    if (target_) *target_ = fromBstr(refStr_);
+    SysFreeString(refStr_);
     if (!(V_VT(&v_) & VT_BYREF)) VariantClear(&v_);
 }
 
@@ -112,6 +129,24 @@ vb::Variant fromVariant(const VARIANT& in) {
     return out;
 }
 
+// The VB error a late-bound call raises for a dispatch failure without error info.
+static int dispatchErrorNumber(HRESULT hr) {
+    switch (hr) {
+        case DISP_E_TYPEMISMATCH:
+            return vb::err::kTypeMismatch;
+        case DISP_E_OVERFLOW:
+            return vb::err::kOverflow;
+        case DISP_E_BADPARAMCOUNT:
+            return 450;  // Wrong number of arguments or invalid property assignment
+        case DISP_E_PARAMNOTOPTIONAL:
+            return 449;  // Argument not optional
+        case DISP_E_MEMBERNOTFOUND:
+            return vb::err::kNoSuchMember;
+        default:
+            return vb::err::kAutomation;
+    }
+}
+
 vb::Variant DispatchCaller::call(const wchar_t* member, std::vector<Arg>& args) {
     DISPID id = dispid(member);
     std::vector<VARIANT> reversed;  // IDispatch takes arguments last first
@@ -130,8 +165,8 @@ vb::Variant DispatchCaller::call(const wchar_t* member, std::vector<Arg>& args) 
         SysFreeString(excep.bstrSource);
         SysFreeString(excep.bstrDescription);
         SysFreeString(excep.bstrHelpFile);
-        int number =
-            HRESULT_FACILITY(code) == FACILITY_CONTROL ? HRESULT_CODE(code) : vb::err::kAutomation;
+        int number = HRESULT_FACILITY(code) == FACILITY_CONTROL ? HRESULT_CODE(code)
+                                                                : dispatchErrorNumber(code);
         if (excep.wCode) number = excep.wCode;
         if (desc.empty()) desc = vb::standardDescription(number);
         throw vb::RuntimeError(number, desc);

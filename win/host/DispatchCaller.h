@@ -18,6 +18,9 @@ class Arg {
     static Arg i4(int32_t v);
     static Arg boolean(bool v);
     static Arg str(const vb::String& v);
+    // A string by reference (VT_BSTR|VT_BYREF): what the host leaves in it is written back to
+    // `v` when the argument goes.
+    static Arg strRef(vb::String& v);
     Arg(Arg&& o) noexcept;
     Arg(const Arg&) = delete;
     ~Arg();
@@ -26,6 +29,8 @@ class Arg {
   private:
     Arg() { VariantInit(&v_); }
     VARIANT v_;
+    BSTR refStr_ = nullptr;  // the storage of a string by reference
+    vb::String* target_ = nullptr;
 };
 
 class DispatchCaller {

@@ -48,8 +48,8 @@ class DAppli : public host::Appli, public Holder {
     Variant InsertMenuItem(int32_t& s, String& command, int16_t x, int16_t y, const String& text,
                            int16_t c, int16_t d, const String& dll, const String& className,
                            const String& method) override {
-        auto a = args(A::sessionRef(s), A::str(command), A::i2(x), A::i2(y), A::str(text), A::i2(c),
-                      A::i2(d), A::str(dll), A::str(className), A::str(method));
+        auto a = args(A::sessionRef(s), A::strRef(command), A::i2(x), A::i2(y), A::str(text),
+                      A::i2(c), A::i2(d), A::str(dll), A::str(className), A::str(method));
         return caller.call(L"InsertMenuItem", a);
     }
 };
