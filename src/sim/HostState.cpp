@@ -15,6 +15,11 @@ const String* HostState::attributeDialogText(int32_t handle, int32_t controlId) 
     return it == call.spec->attributeDialog.end() ? nullptr : &it->second;
 }
 
+WriteResult HostState::writeResource(const String& path, const String& content) {
+    if (resourceWriter) return resourceWriter(path, content);
+    return world.files.writeFile(path, content);
+}
+
 void HostState::noteCreatedFile(const String& path) {
     const auto parsed = parsePath(path);
     if (!parsed) return;

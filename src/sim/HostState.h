@@ -2,6 +2,7 @@
 // What the simulated host knows while the plug-in runs: the world, the call in progress, the
 // sessions opened so far, the current catalogue and the files the plug-in created.
 #include <cstdint>
+#include <functional>
 #include <unordered_set>
 #include <vector>
 
@@ -13,7 +14,11 @@ namespace sim {
 struct CurrentCall {
     int32_t block = 0;  // the call-parameter block handed to the plug-in
     const CallSpec* spec = nullptr;
+    int32_t dialogHandle = 0;  // a shell's real attribute dialog; 0: the simulated handle
 };
+
+// Writes one exported resource; a shell that keeps its files on a real drive sets its own.
+using ResourceWriter = std::function<WriteResult(const String& path, const String& content)>;
 
 class HostState {
   public:
@@ -28,8 +33,14 @@ class HostState {
     // -2 is the call's object; any other id is itself.
     int32_t resolve(int32_t id) const;
     // The window handle of the host's attribute dialog during the current call.
-    int32_t attributeDialogHandle() const { return kDialogHandleBase + call.block; }
+    int32_t attributeDialogHandle() const {
+        return call.dialogHandle ? call.dialogHandle : kDialogHandleBase + call.block;
+    }
     const String* attributeDialogText(int32_t handle, int32_t controlId) const;
+
+    // FileExportResource's write: into the world's files unless `resourceWriter` is set.
+    WriteResult writeResource(const String& path, const String& content);
+    ResourceWriter resourceWriter;
 
     void noteCreatedFile(const String& path);
     const std::vector<String>& createdFiles() const { return createdFiles_; }

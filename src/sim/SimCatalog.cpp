@@ -73,7 +73,7 @@ Variant SimCatalog::FileExportResource(int32_t&, int32_t rank, const String& pat
     const TableLine* line = t ? t->line(rank) : nullptr;
     bool ok = false;
     if (line) {
-        const WriteResult written = s_.world.files.writeFile(path, line->data);
+        const WriteResult written = s_.writeResource(path, line->data);
         ok = written != WriteResult::Failed;
         if (written == WriteResult::Created) s_.noteCreatedFile(path);
     }
