@@ -1,0 +1,47 @@
+# The `wine` suite: the real DLL under Wine and a virtual display, in one shared prefix set up
+# once per run (fixture `wine`): registration and a script host (tests/wine/run), then every
+# scenario without user actions played through hostdriver.exe and compared with the native
+# runner's transcript.
+set(QUORBEL_NATIVE_RUNNER ${CMAKE_SOURCE_DIR}/build/native/quorbel-sim
+    CACHE FILEPATH "The native scenario runner the Wine transcripts are compared with")
+set(WINE_TESTS ${CMAKE_SOURCE_DIR}/tests/wine)
+set(WINE_SUITE ${CMAKE_BINARY_DIR}/wine-suite)
+
+add_test(NAME wine.setup COMMAND ${WINE_TESTS}/suite start ${WINE_SUITE})
+add_test(NAME wine.teardown COMMAND ${WINE_TESTS}/suite stop ${WINE_SUITE})
+set_tests_properties(wine.setup PROPERTIES FIXTURES_SETUP wine LABELS wine)
+set_tests_properties(wine.teardown PROPERTIES FIXTURES_CLEANUP wine LABELS wine)
+
+function(wine_test name)
+  add_test(NAME ${name} COMMAND ${WINE_TESTS}/suite exec ${WINE_SUITE} ${ARGN})
+  # One prefix and one wineserver for the whole suite: its tests take turns.
+  set_tests_properties(${name} PROPERTIES FIXTURES_REQUIRED wine LABELS wine
+                       RESOURCE_LOCK wine_prefix TIMEOUT 120)
+endfunction()
+
+wine_test(wine.registration_and_script_host env QUORBEL_WIN_DLL=${CMAKE_BINARY_DIR}/Quorbel.dll
+          QUORBEL_WINE_TEMPLATE=${WINE_SUITE}/template ${WINE_TESTS}/run)
+
+# Every golden scenario without user actions (those need the dialog's window), and the samples.
+file(GLOB_RECURSE goldens CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/scenarios/*.expected.json)
+file(GLOB samples CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/samples/*.json)
+set(scenarios ${samples})
+foreach(golden IN LISTS goldens)
+  string(REGEX REPLACE "\\.expected\\.json$" ".json" scenario ${golden})
+  if(EXISTS ${scenario})
+    list(APPEND scenarios ${scenario})
+  endif()
+endforeach()
+foreach(scenario IN LISTS scenarios)
+  file(READ ${scenario} text)
+  string(FIND "${text}" "\"ui\"" has_ui)
+  if(has_ui EQUAL -1)
+    file(RELATIVE_PATH name ${CMAKE_SOURCE_DIR} ${scenario})
+    string(REGEX REPLACE "^tests/scenarios/|\\.json$" "" name ${name})
+    wine_test(wine.scenario.${name} ${WINE_TESTS}/play-scenario ${QUORBEL_NATIVE_RUNNER}
+              ${CMAKE_BINARY_DIR}/hostdriver.exe ${scenario})
+  endif()
+endforeach()
+wine_test(wine.scenario.bad_input ${WINE_TESTS}/play-scenario ${QUORBEL_NATIVE_RUNNER}
+          ${CMAKE_BINARY_DIR}/hostdriver.exe ${WINE_TESTS}/bad_scenario.json)
+wine_test(wine.hostdriver_checks /usr/lib/wine/wine64 ${CMAKE_BINARY_DIR}/hostdriver-checks.exe)
