@@ -90,9 +90,7 @@ HWND DialogWindow::createWindow(const wchar_t* cls, DWORD style, DWORD exStyle,
                                 const std::wstring& text, const Place& place) {
     HWND parent = hwnd_;
     if (!place.parent.empty())
-        for (auto& arr : arrays_)
-            for (auto& rc : arr)
-                if (keyOf(rc.name, rc.index) == place.parent) parent = rc.hwnd;
+        if (auto it = byKey_.find(place.parent); it != byKey_.end()) parent = it->second;
     const RECT& r = place.rect;
     HWND h = CreateWindowExW(exStyle, cls, text.c_str(), style, r.left, r.top, r.right - r.left,
                              r.bottom - r.top, parent, reinterpret_cast<HMENU>(nextId_++),
@@ -103,6 +101,7 @@ HWND DialogWindow::createWindow(const wchar_t* cls, DWORD style, DWORD exStyle,
 }
 
 void DialogWindow::tagWindow(RealControl& rc, int order, int group) {
+    byKey_[keyOf(rc.name, rc.index)] = rc.hwnd;
     props::setString(rc.hwnd, props::kControl, keyOf(rc.name, rc.index));
     props::setInt(rc.hwnd, props::kKind, static_cast<int>(rc.kind));
     props::setInt(rc.hwnd, props::kOrder, order);
@@ -170,7 +169,12 @@ void DialogWindow::createFirstElements() {
 }
 
 void DialogWindow::sincroniza() {
-    syncing_ = true;
+    // Text the view writes is not the user's typing: the edits' change notices are ignored.
+    struct Syncing {
+        bool& flag;
+        explicit Syncing(bool& f) : flag(f) { flag = true; }
+        ~Syncing() { flag = false; }
+    } syncing(syncing_);
     size_t a = 0;
     dialog::paraCadaControl(form_, [&](const char16_t*, auto* c, size_t n) {
         size_t which = a++;
@@ -187,17 +191,17 @@ void DialogWindow::sincroniza() {
             aplica(arrays_[which][i], c[i]);
         }
     });
-    syncing_ = false;
-    // Stacked controls: the drawing above its companion, the selection frame below both.
+}
+
+// Stacked controls: the drawing above its companion, the selection frame below both.
+void DialogWindow::stack() {
+    const UINT keep = SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE;
     for (auto& arr : arrays_)
         for (auto& rc : arr) {
-            if (rc.kind == K::Shape)
-                SetWindowPos(rc.hwnd, HWND_BOTTOM, 0, 0, 0, 0,
-                             SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+            if (rc.kind == K::Shape) SetWindowPos(rc.hwnd, HWND_BOTTOM, 0, 0, 0, 0, keep);
             if (rc.name == u"PictureEsp" || rc.name == u"ImageDiagonal" ||
                 rc.name == u"EtiqEncNoDisp")
-                SetWindowPos(rc.hwnd, HWND_TOP, 0, 0, 0, 0,
-                             SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+                SetWindowPos(rc.hwnd, HWND_TOP, 0, 0, 0, 0, keep);
         }
 }
 

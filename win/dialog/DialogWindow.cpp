@@ -126,6 +126,7 @@ void DialogWindow::closeWindow(HWND owner, bool ownerWasEnabled) {
     hwnd_ = nullptr;
     arrays_.clear();
     slots_.clear();
+    byKey_.clear();
 }
 
 void DialogWindow::create(HWND owner) {
@@ -154,6 +155,7 @@ void DialogWindow::create(HWND owner) {
     setIcon();
     createFirstElements();
     sincroniza();
+    stack();
 }
 
 void DialogWindow::setIcon() {

@@ -62,6 +62,7 @@ class DialogWindow {
     void create(HWND owner);
     void createFirstElements();
     void sincroniza();
+    void stack();
     void setIcon();
     void closeWindow(HWND owner, bool ownerWasEnabled);
     RealControl* find(HWND h);
@@ -101,6 +102,7 @@ class DialogWindow {
     Layout layout_;
     std::vector<std::vector<RealControl>> arrays_;  // in the form's control order
     std::unordered_map<HWND, std::pair<size_t, size_t>> slots_;
+    std::unordered_map<std::wstring, HWND> byKey_;  // "Name#index"
     int nextId_ = 1000;
     HWND pressed_ = nullptr;
     bool syncing_ = false;
