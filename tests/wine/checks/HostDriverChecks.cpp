@@ -8,6 +8,7 @@
 
 #include "ComArguments.h"
 #include "HostObjects.h"
+#include "Machine.h"
 #include "SimDispatch.h"
 #include "sim/Player.h"
 #include "vb/Errors.h"
@@ -192,6 +193,17 @@ void scenarioArgumentsConvert() {
     expect(number == vb::err::kOverflow, "a 16-bit argument out of range overflows");
 }
 
+// The plug-in reads the separator with GetLocaleInfoW: it must see what the scenario set.
+void decimalSeparatorReachesTheLocale() {
+    for (const char16_t separator : {u',', u'.'}) {
+        hostdriver::setUserDecimalSeparator(separator);
+        wchar_t read[8] = {0};
+        GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_SDECIMAL, read, 8);
+        expect(read[0] == static_cast<wchar_t>(separator) && read[1] == 0,
+               std::string("decimal separator ") + static_cast<char>(separator));
+    }
+}
+
 }  // namespace
 
 int main() {
@@ -200,6 +212,7 @@ int main() {
     hostObjectsBindAndRecord();
     menuItemKeepsItsCommand();
     scenarioArgumentsConvert();
+    decimalSeparatorReachesTheLocale();
     CoUninitialize();
     std::printf("%d passed, %d failed\n", passed, failed);
     return failed == 0 ? 0 : 1;
