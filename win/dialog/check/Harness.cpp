@@ -68,8 +68,9 @@ BOOL CALLBACK byKey(HWND h, LPARAM p) {
 
 }  // namespace
 
-void showForm(const std::function<void(dialog::frmEspEnc&)>& prepare,
-              const std::function<void(HWND)>& inspect) {
+std::exception_ptr showForm(const std::function<void(dialog::frmEspEnc&)>& prepare,
+                            const std::function<void(HWND)>& inspect, HWND owner,
+                            const std::function<void(HWND)>& ownerChanged) {
     NoPlatform platform;
     NoFactory factory;
     handlers::Env env{platform, factory, nullptr};
@@ -78,12 +79,15 @@ void showForm(const std::function<void(dialog::frmEspEnc&)>& prepare,
     prepare(form);
     pending = inspect;
     SetTimer(nullptr, 0, 300, onTimer);
+    std::exception_ptr error;
     try {
-        DialogWindow window(form);
-        window.runModal(nullptr);
+        DialogWindow window(form, ownerChanged);
+        window.runModal(owner);
     } catch (...) {
+        error = std::current_exception();
     }
     pending = nullptr;
+    return error;
 }
 
 HWND controlOf(HWND dialog, const std::wstring& key) {

@@ -3,6 +3,7 @@
 // form, then inspects the real windows once they are drawn. Faults are printed and counted.
 #include <windows.h>
 
+#include <exception>
 #include <functional>
 #include <string>
 
@@ -10,10 +11,11 @@
 
 namespace quorbel::check {
 
-// Runs `inspect` on the open dialog, then closes it (closing needs a host: its error is
-// expected and ignored).
-void showForm(const std::function<void(dialog::frmEspEnc&)>& prepare,
-              const std::function<void(HWND dialog)>& inspect);
+// Runs `inspect` on the open dialog, then closes it. Closing needs a host, so it raises: the
+// error that left the modal loop is returned.
+std::exception_ptr showForm(const std::function<void(dialog::frmEspEnc&)>& prepare,
+                            const std::function<void(HWND dialog)>& inspect, HWND owner = nullptr,
+                            const std::function<void(HWND)>& ownerChanged = {});
 
 // The dialog's control `key` ("Name#index").
 HWND controlOf(HWND dialog, const std::wstring& key);

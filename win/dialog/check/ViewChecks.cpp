@@ -9,6 +9,7 @@
 #include "Harness.h"
 #include "dialog/WindowProps.h"
 #include "platform/Ansi.h"
+#include "vb/Errors.h"
 
 namespace quorbel::check {
 
@@ -207,16 +208,51 @@ void iconCases() {
     }
 }
 
+// Modal to the host's active window, message boxes owned by the dialog while it is open, and a
+// handler's error raised only after the window is gone (here: closing without a host).
+void modalCase() {
+    HWND host = CreateWindowExW(0, L"STATIC", L"host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 200,
+                                100, nullptr, nullptr, nullptr, nullptr);
+    SetActiveWindow(host);
+    std::vector<HWND> owners;
+    bool ownedByHost = false, hostDisabled = false;
+    std::exception_ptr error =
+        showForm([](dialog::frmEspEnc&) {},
+                 [&](HWND dialog) {
+                     ownedByHost = GetWindow(dialog, GW_OWNER) == host;
+                     hostDisabled = !IsWindowEnabled(host);
+                     if (owners.size() != 1 || owners[0] != dialog)
+                         fault(L"message boxes are not owned by the open dialog");
+                 },
+                 host, [&](HWND h) { owners.push_back(h); });
+    if (!ownedByHost) fault(L"the dialog is not owned by the host's active window");
+    if (!hostDisabled) fault(L"the host window is not disabled while the dialog is open");
+    if (!IsWindowEnabled(host)) fault(L"the host window stays disabled after the dialog");
+    if (owners.size() != 2 || owners[1] != nullptr)
+        fault(L"message boxes are still owned by the closed dialog");
+    if (FindWindowW(props::kDialogClass, nullptr)) fault(L"the dialog outlived its error");
+    try {
+        if (error) std::rethrow_exception(error);
+        fault(L"the error of closing without a host did not leave the modal loop");
+    } catch (const vb::RuntimeError& e) {
+        if (e.number() != 91) fault(L"closing without a host raised another error");
+    } catch (...) {
+        fault(L"closing without a host raised a foreign exception");
+    }
+    DestroyWindow(host);
+}
+
 }  // namespace
 
 int viewChecks() {
-    int cases = 3;
+    int cases = 4;
     for (const auto& group : {drawingCases(), colourCases(), previewCases()})
         for (const Case& c : group) {
             runPixelCase(c);
             ++cases;
         }
     iconCases();
+    modalCase();
     std::printf("%d view cases\n", cases);
     return faults();
 }
