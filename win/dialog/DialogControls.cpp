@@ -30,6 +30,11 @@ K kindOf() {
     return K::ScrollBar;
 }
 
+bool followsForm(const std::u16string& name) {
+    return name == u"picin" || name == u"EtiqTituloEnc" || name == u"EtiqValorEnc" ||
+           name == u"TxtValoresEnc";
+}
+
 struct WindowKind {
     const wchar_t* cls;
     DWORD style;
@@ -41,6 +46,10 @@ WindowKind windowKind(K kind, const std::u16string& name) {
     bool container = name == u"picout" || name == u"picin" || name == u"PictureEspOc";
     switch (kind) {
         case K::Label:
+            // A recess row is one line high: a long component name ends in an ellipsis.
+            if (followsForm(name))
+                return {L"STATIC",
+                        child | SS_LEFTNOWORDWRAP | SS_ENDELLIPSIS | SS_NOTIFY | SS_NOPREFIX, 0};
             return {L"STATIC", child | SS_LEFT | SS_NOTIFY | SS_NOPREFIX, 0};
         case K::Button:
             return {L"BUTTON", child | WS_TABSTOP | WS_CLIPCHILDREN | BS_PUSHBUTTON | BS_MULTILINE,
@@ -51,8 +60,8 @@ WindowKind windowKind(K kind, const std::u16string& name) {
             return {L"EDIT", child | WS_TABSTOP | WS_BORDER | ES_AUTOHSCROLL, 0};
         case K::ListBox:
             return {L"LISTBOX",
-                    child | WS_TABSTOP | WS_BORDER | WS_VSCROLL | LBS_MULTIPLESEL | LBS_NOTIFY |
-                        LBS_NOINTEGRALHEIGHT,
+                    child | WS_TABSTOP | WS_BORDER | WS_VSCROLL | WS_HSCROLL | LBS_MULTIPLESEL |
+                        LBS_NOTIFY | LBS_NOINTEGRALHEIGHT,
                     0};
         case K::Picture:
             return {kPictureClass, child | (container ? WS_CLIPCHILDREN : 0),
@@ -63,11 +72,6 @@ WindowKind windowKind(K kind, const std::u16string& name) {
             return {L"SCROLLBAR", child | SBS_VERT, 0};
     }
     return {L"STATIC", child, 0};
-}
-
-bool followsForm(const std::u16string& name) {
-    return name == u"picin" || name == u"EtiqTituloEnc" || name == u"EtiqValorEnc" ||
-           name == u"TxtValoresEnc";
 }
 
 std::u16string windowText(HWND h) {
@@ -294,7 +298,6 @@ void DialogWindow::aplica(RealControl& rc, dialog::ListBox& m) {
         ReleaseDC(h, dc);
         // Long component names scroll sideways instead of being cut.
         SendMessageW(h, LB_SETHORIZONTALEXTENT, widest, 0);
-        ShowScrollBar(h, SB_HORZ, FALSE);
         SendMessageW(h, WM_SETREDRAW, TRUE, 0);
         InvalidateRect(h, nullptr, TRUE);
     }

@@ -79,6 +79,18 @@ void DialogWindow::fire(F&& handler) {
     if (error_ || form_.descargado()) PostMessageW(hwnd_, WM_NULL, 0, 0);
 }
 
+// Reading what the user did into the form: no handler runs, but nothing may escape either.
+template <typename F>
+void DialogWindow::guard(F&& reading) {
+    if (error_) return;
+    try {
+        reading();
+    } catch (...) {
+        error_ = std::current_exception();
+        PostMessageW(hwnd_, WM_NULL, 0, 0);
+    }
+}
+
 void DialogWindow::runModal(HWND owner) {
     WindowClasses classes;
     bool ownerWasEnabled = owner && IsWindowEnabled(owner);
@@ -231,7 +243,7 @@ LRESULT DialogWindow::controlMessage(HWND h, UINT msg, WPARAM wp, LPARAM lp, boo
             if (c.kind == K::ListBox) {
                 handled = true;
                 LRESULT r = DefSubclassProc(h, msg, wp, lp);
-                leeLista(c);
+                guard([&] { leeLista(c); });
                 fire([&] { dialog::disparaMouseUp(form_, c.name, c.index); });
                 return r;
             }
@@ -250,13 +262,15 @@ LRESULT DialogWindow::controlMessage(HWND h, UINT msg, WPARAM wp, LPARAM lp, boo
             {
                 LRESULT r = DefSubclassProc(h, msg, wp, lp);
                 fire([&] { dialog::disparaGotFocus(form_, c.name, c.index); });
-                dialog::TextBox& caja = dialog::cajaDe(form_, c.name, c.index);
-                SendMessageW(h, EM_SETSEL, caja.SelStart, caja.SelStart + caja.SelLength);
+                guard([&] {
+                    dialog::TextBox& caja = dialog::cajaDe(form_, c.name, c.index);
+                    SendMessageW(h, EM_SETSEL, caja.SelStart, caja.SelStart + caja.SelLength);
+                });
                 return r;
             }
         case WM_KILLFOCUS:
             if (c.kind != K::TextBox) return 0;
-            leeTexto(c);
+            guard([&] { leeTexto(c); });
             fire([&] { dialog::disparaLostFocus(form_, c.name, c.index); });
             return 0;
         case WM_CHAR:
@@ -267,7 +281,7 @@ LRESULT DialogWindow::controlMessage(HWND h, UINT msg, WPARAM wp, LPARAM lp, boo
                 fire([&] { dialog::disparaKeyPress(form_, c.name, c.index, key); });
                 if (key == 0 || error_) return 0;  // refused: the form has beeped
                 LRESULT r = DefSubclassProc(h, msg, static_cast<WPARAM>(key), lp);
-                leeTexto(c);
+                guard([&] { leeTexto(c); });
                 return r;
             }
         default:
@@ -318,9 +332,9 @@ void DialogWindow::command(HWND from, int code) {
     if (c.kind == K::Button && code == BN_CLICKED)
         fire([&] { dialog::disparaClick(form_, c.name, c.index); });
     else if (c.kind == K::ListBox && code == LBN_SELCHANGE)
-        leeLista(c);
+        guard([&] { leeLista(c); });
     else if (c.kind == K::TextBox && code == EN_CHANGE)
-        leeTexto(c);
+        guard([&] { leeTexto(c); });
 }
 
 void DialogWindow::scroll(HWND bar, WPARAM wp) {

@@ -59,6 +59,8 @@ class DialogWindow {
   private:
     template <typename F>
     void fire(F&& handler);
+    template <typename F>
+    void guard(F&& reading);
     void create(HWND owner);
     void createFirstElements();
     void sincroniza();
