@@ -114,4 +114,30 @@ class DialogWindow {
     bool previewFailed_ = false;
 };
 
+// A handler of the form, run for a window message: its error is kept for the end of the modal
+// loop, and what it changed is brought onto the controls.
+template <typename F>
+inline void DialogWindow::fire(F&& handler) {
+    if (error_ || form_.descargado()) return;
+    try {
+        handler();
+        sincroniza();
+    } catch (...) {
+        error_ = std::current_exception();
+    }
+    if (error_ || form_.descargado()) PostMessageW(hwnd_, WM_NULL, 0, 0);
+}
+
+// Reading what the user did into the form: no handler runs, but nothing may escape either.
+template <typename F>
+inline void DialogWindow::guard(F&& reading) {
+    if (error_) return;
+    try {
+        reading();
+    } catch (...) {
+        error_ = std::current_exception();
+        PostMessageW(hwnd_, WM_NULL, 0, 0);
+    }
+}
+
 }  // namespace quorbel
