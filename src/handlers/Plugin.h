@@ -13,7 +13,7 @@ using vb::String;
 using vb::Variant;
 
 class Plugin {
-public:
+  public:
     explicit Plugin(Env& env) : env_(env) {}
 
     Variant construyeMensaje(bool& valAncho, bool& valAlto, bool& valFondo, int16_t& tipoFuncion);
@@ -44,7 +44,7 @@ public:
 
     Env& env() { return env_; }
 
-private:
+  private:
     Env& env_;
     // Per-instance state, kept for the life of the host's instance.
     String refObjeto;

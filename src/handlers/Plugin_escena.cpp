@@ -61,8 +61,8 @@ bool Plugin::OnSceneGenericFinishesAfter(int32_t lCallParamsBlock) {
     ultimoCatalogo = -1;
     String mensaje;
     auto& mv = rules::modVariables();
-    host::SessionScope scope(env_.factory, {&mv.miAppli, &mv.miScene, &mv.miCatalog, &mv.miSessionId},
-                             lCallParamsBlock);
+    host::SessionScope scope(
+        env_.factory, {&mv.miAppli, &mv.miScene, &mv.miCatalog, &mv.miSessionId}, lCallParamsBlock);
     Idiomas idiomas;
     idiomas.aplicacion = vb::CStr(host::use(mv.miAppli).GetLanguage(mv.miSessionId));
     idiomas.catalogo = vb::CStr(host::use(mv.miCatalog).GetInfo(mv.miSessionId, 17));

@@ -28,8 +28,8 @@ String textoDialogo(Env& env, int32_t handle, int32_t controlId) {
 
 bool Plugin::OnObjectPlaceAfter(int32_t lCallParamsBlock) {
     auto& mv = rules::modVariables();
-    host::SessionScope scope(env_.factory, {&mv.miAppli, &mv.miScene, &mv.miCatalog, &mv.miSessionId},
-                             lCallParamsBlock);
+    host::SessionScope scope(
+        env_.factory, {&mv.miAppli, &mv.miScene, &mv.miCatalog, &mv.miSessionId}, lCallParamsBlock);
     if (scope.isOpen()) {
         mv.dirCatalogos = leeDirCatalogos(env_) + u"\\";
         mv.medidaAncho = infoEvento(12);
@@ -49,8 +49,8 @@ bool Plugin::OnObjectPlaceAfter(int32_t lCallParamsBlock) {
 
 bool Plugin::OnObjectAttributsDlgValidation(int32_t lCallParamsBlock) {
     auto& mv = rules::modVariables();
-    host::SessionScope scope(env_.factory, {&mv.miAppli, &mv.miScene, &mv.miCatalog, &mv.miSessionId},
-                             lCallParamsBlock);
+    host::SessionScope scope(
+        env_.factory, {&mv.miAppli, &mv.miScene, &mv.miCatalog, &mv.miSessionId}, lCallParamsBlock);
     if (scope.isOpen()) {
         const int32_t handle = vb::CLng(
             host::use(mv.miAppli).GetCallParamsInfo(mv.miSessionId, kInfoDialogoAtributos));

@@ -34,7 +34,8 @@ std::optional<int32_t> numeroCatalogo(const String& numero) {
 }  // namespace
 
 bool Wizard::OnObjectPlaceAfter(int32_t lCallParamsBlock) {
-    host::SessionScope scope(env_.factory, {&wAppli, &wScene, &wCatalog, &wSessionId}, lCallParamsBlock);
+    host::SessionScope scope(env_.factory, {&wAppli, &wScene, &wCatalog, &wSessionId},
+                             lCallParamsBlock);
     bool result = false;
     if (scope.isOpen()) {
         const auto numero =
