@@ -25,68 +25,81 @@ LRESULT DialogWindow::controlMessage(HWND h, UINT msg, WPARAM wp, LPARAM lp, boo
     RealControl* rc = find(h);
     if (!rc) return 0;
     const RealControl c = *rc;  // handlers may grow the arrays
-    using K = props::ControlKind;
+    const RawMessage m{h, msg, wp, lp};
     switch (msg) {
         case WM_LBUTTONDOWN:
         case WM_LBUTTONDBLCLK:
-            if (c.kind == K::ListBox) return 0;
-            if (c.kind == K::Button) {
-                fire([&] { dialog::disparaMouseDown(form_, c.name, c.index); });
-                return 0;  // the button's own procedure presses it
-            }
-            if (c.kind == K::Label || c.kind == K::Picture) {
-                mouseDown(c);
-                handled = true;
-            }
-            return 0;
+            return pressed(c, handled);
         case WM_LBUTTONUP:
-            if (c.kind == K::ListBox) {
-                handled = true;
-                LRESULT r = DefSubclassProc(h, msg, wp, lp);
-                guard([&] { leeLista(c); });
-                fire([&] { dialog::disparaMouseUp(form_, c.name, c.index); });
-                return r;
-            }
-            if (c.kind == K::Button) {
-                fire([&] { dialog::disparaMouseUp(form_, c.name, c.index); });
-                return 0;  // the button's own procedure sends the click
-            }
-            if (c.kind == K::Label || c.kind == K::Picture) {
-                mouseUp(c, lp);
-                handled = true;
-            }
-            return 0;
+            return released(c, m, handled);
         case WM_SETFOCUS:
-            if (c.kind != K::TextBox) return 0;
-            handled = true;
-            {
-                LRESULT r = DefSubclassProc(h, msg, wp, lp);
-                fire([&] { dialog::disparaGotFocus(form_, c.name, c.index); });
-                guard([&] {
-                    dialog::TextBox& caja = dialog::cajaDe(form_, c.name, c.index);
-                    SendMessageW(h, EM_SETSEL, caja.SelStart, caja.SelStart + caja.SelLength);
-                });
-                return r;
-            }
+            return focused(c, m, handled);
         case WM_KILLFOCUS:
-            if (c.kind != K::TextBox) return 0;
+            if (c.kind != props::ControlKind::TextBox) return 0;
             guard([&] { leeTexto(c); });
             fire([&] { dialog::disparaLostFocus(form_, c.name, c.index); });
             return 0;
         case WM_CHAR:
-            if (c.kind != K::TextBox) return 0;
-            handled = true;
-            {
-                int key = static_cast<int>(wp);
-                fire([&] { dialog::disparaKeyPress(form_, c.name, c.index, key); });
-                if (key == 0 || error_) return 0;  // refused: the form has beeped
-                LRESULT r = DefSubclassProc(h, msg, static_cast<WPARAM>(key), lp);
-                guard([&] { leeTexto(c); });
-                return r;
-            }
+            return typed(c, m, handled);
         default:
             return 0;
     }
+}
+
+LRESULT DialogWindow::pressed(const RealControl& c, bool& handled) {
+    using K = props::ControlKind;
+    if (c.kind == K::Button) {
+        fire([&] { dialog::disparaMouseDown(form_, c.name, c.index); });
+        return 0;  // the button's own procedure presses it
+    }
+    if (c.kind == K::Label || c.kind == K::Picture) {
+        mouseDown(c);
+        handled = true;
+    }
+    return 0;
+}
+
+LRESULT DialogWindow::released(const RealControl& c, const RawMessage& m, bool& handled) {
+    using K = props::ControlKind;
+    if (c.kind == K::ListBox) {
+        handled = true;
+        LRESULT r = DefSubclassProc(m.hwnd, m.msg, m.wp, m.lp);
+        guard([&] { leeLista(c); });
+        fire([&] { dialog::disparaMouseUp(form_, c.name, c.index); });
+        return r;
+    }
+    if (c.kind == K::Button) {
+        fire([&] { dialog::disparaMouseUp(form_, c.name, c.index); });
+        return 0;  // the button's own procedure sends the click
+    }
+    if (c.kind == K::Label || c.kind == K::Picture) {
+        mouseUp(c, m.lp);
+        handled = true;
+    }
+    return 0;
+}
+
+LRESULT DialogWindow::focused(const RealControl& c, const RawMessage& m, bool& handled) {
+    if (c.kind != props::ControlKind::TextBox) return 0;
+    handled = true;
+    LRESULT r = DefSubclassProc(m.hwnd, m.msg, m.wp, m.lp);
+    fire([&] { dialog::disparaGotFocus(form_, c.name, c.index); });
+    guard([&] {
+        dialog::TextBox& caja = dialog::cajaDe(form_, c.name, c.index);
+        SendMessageW(m.hwnd, EM_SETSEL, caja.SelStart, caja.SelStart + caja.SelLength);
+    });
+    return r;
+}
+
+LRESULT DialogWindow::typed(const RealControl& c, const RawMessage& m, bool& handled) {
+    if (c.kind != props::ControlKind::TextBox) return 0;
+    handled = true;
+    int key = static_cast<int>(m.wp);
+    fire([&] { dialog::disparaKeyPress(form_, c.name, c.index, key); });
+    if (key == 0 || error_) return 0;  // refused: the form has beeped
+    LRESULT r = DefSubclassProc(m.hwnd, m.msg, static_cast<WPARAM>(key), m.lp);
+    guard([&] { leeTexto(c); });
+    return r;
 }
 
 void DialogWindow::mouseDown(const RealControl& c) {

@@ -87,6 +87,17 @@ class DialogWindow {
     void aplica(RealControl& rc, dialog::ScrollBar& m);
     void aplicaTexto(RealControl& rc, const std::u16string& text);
 
+    // A message to a real control, for the default procedure after the form has seen it.
+    struct RawMessage {
+        HWND hwnd;
+        UINT msg;
+        WPARAM wp;
+        LPARAM lp;
+    };
+    LRESULT pressed(const RealControl& c, bool& handled);
+    LRESULT released(const RealControl& c, const RawMessage& m, bool& handled);
+    LRESULT focused(const RealControl& c, const RawMessage& m, bool& handled);
+    LRESULT typed(const RealControl& c, const RawMessage& m, bool& handled);
     void mouseDown(const RealControl& rc);
     void mouseUp(const RealControl& rc, LPARAM lp);
     void leeLista(const RealControl& rc);
