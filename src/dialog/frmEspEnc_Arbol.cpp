@@ -117,8 +117,10 @@ void frmEspEnc::listaComponente(int32_t child, int lista, std::array<int16_t, 5>
     idsListas[lista][nL - 1] = child;
     if (lista == 4) cargaDatosEncastre(child, nL);
     String texto = CStr(scene.ObjectGetInfo(sid, child, 5));
-    if (esUnoODos(scene.ObjectGetInfo(sid, child, 11)))
-        texto += u" " + CStr(scene.ObjectGetInfo(sid, child, 10));
+    if (esUnoODos(scene.ObjectGetInfo(sid, child, 11))) {
+        texto += u' ';
+        texto += CStr(scene.ObjectGetInfo(sid, child, 10));
+    }
     ListBox& caja = listComponentes[lista];
     caja.entries.push_back({sangria(nivel) + texto, false});
     if (vb::equalText(CStr(scene.ObjectGetInfo(sid, child, 59)), u"1"))

@@ -35,8 +35,13 @@ std::string str(const Json& j) {
     return j.is_string() ? j.get<std::string>() : j.dump();
 }
 
+// Built by appending: GCC 12 warns falsely (-Wrestrict) on a literal + string concatenation.
 std::string quoted(const Json& j) {
-    return j.is_string() ? "\"" + str(j) + "\"" : j.dump();
+    if (!j.is_string()) return j.dump();
+    std::string text(1, '"');
+    text += str(j);
+    text += '"';
+    return text;
 }
 
 void drawBox(std::ostream& out, const Json& e) {
@@ -45,7 +50,9 @@ void drawBox(std::ostream& out, const Json& e) {
     auto lines = textLines(str(e["text"]));
     for (size_t i = 0; i < lines.size(); ++i)
         lines[i] = (i == 0 ? mark : std::string(mark.size(), ' ')) + lines[i];
-    const std::string caption = " " + str(e["caption"]) + " ";
+    std::string caption(1, ' ');
+    caption += str(e["caption"]);
+    caption += ' ';
     size_t width = columns(caption) + 4;
     for (const auto& line : lines) width = std::max(width, columns(line) + 2);
     out << "  +--" << caption << std::string(width - columns(caption) - 2, '-') << "+\n";
