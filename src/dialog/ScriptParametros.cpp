@@ -91,11 +91,11 @@ bool limitesScript(const String& script, bool checkL, bool checkH, bool checkP,
     return ok;
 }
 
-String rangoParametro(const String& spec, const String& script,
+String rangoParametro(const String& definicion, const String& script,
                       const std::array<String, 3>& cajas) {
     int32_t hi = static_cast<int32_t>(kMaximoDefecto), lo = 0;
-    int p = posicion(script, spec);
-    if (p == 0 || spec.empty()) return u"0";
+    int p = posicion(script, definicion);
+    if (p == 0 || definicion.empty()) return u"0";
     String s = vb::Mid(script, p);
     int a = posicion(s, u"(");
     if (a != 0) {
@@ -115,9 +115,9 @@ String rangoParametro(const String& spec, const String& script,
     return vb::numberText(static_cast<double>(static_cast<int64_t>(hi) - lo));
 }
 
-String codigoParametro(const String& spec) {
-    int k = posicion(spec, u"(");
-    return k >= 1 ? vb::Left(spec, k - 1) : spec;
+String codigoParametro(const String& definicion) {
+    int k = posicion(definicion, u"(");
+    return k >= 1 ? vb::Left(definicion, k - 1) : definicion;
 }
 
 }  // namespace dialog

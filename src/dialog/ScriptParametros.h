@@ -27,9 +27,10 @@ bool limitesScript(const String& script, bool checkL, bool checkH, bool checkP,
 // The parameter's range (upper end minus lower end) as decimal text; `cajas` are the texts of
 // the width, height and depth boxes that "@L", "@H" and "@P" stand for. Items that cannot be
 // read are skipped.
-String rangoParametro(const String& spec, const String& script, const std::array<String, 3>& cajas);
+String rangoParametro(const String& definicion, const String& script,
+                      const std::array<String, 3>& cajas);
 
-// The code in front of the spec's "(" (the whole spec when it has none).
-String codigoParametro(const String& spec);
+// The code in front of the parameter's "(" (the whole definition when it has none).
+String codigoParametro(const String& definicion);
 
 }  // namespace dialog
