@@ -160,7 +160,8 @@ RealControl* DialogWindow::find(HWND h) {
 }
 
 LRESULT DialogWindow::dialogMessage(UINT msg, WPARAM wp, LPARAM lp) {
-    if (msg == props::actionMessage() && lp) {
+    // Only the dialog's own thread may ask: the request is a pointer into its caller's memory.
+    if (msg == props::actionMessage() && lp && InSendMessageEx(nullptr) == ISMEX_NOSEND) {
         playUnreachable(*reinterpret_cast<const props::ActionRequest*>(lp));
         return 0;
     }
