@@ -10,9 +10,7 @@
 
 #include <cstdio>
 #include <exception>
-#include <fstream>
 #include <iostream>
-#include <sstream>
 #include <string>
 
 #include "ComPlayer.h"
@@ -24,14 +22,6 @@
 namespace {
 
 constexpr int kBadInput = 2;
-
-std::string readScenario(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    if (!in) throw sim::ScenarioError(path + ": cannot open the file");
-    std::ostringstream content;
-    content << in.rdbuf();
-    return content.str();
-}
 
 std::wstring pluginBesideProgram() {
     wchar_t path[MAX_PATH * 4];
@@ -65,7 +55,7 @@ sim::Json play(sim::Scenario& scenario) {
 }
 
 int run(const std::string& file) {
-    auto scenario = sim::loadScenario(readScenario(file));
+    auto scenario = sim::loadScenario(sim::readWholeFile(file));
     Apartment apartment;
     const sim::Json transcript = play(*scenario);
     std::cout << transcript.dump(2, ' ', false, sim::Json::error_handler_t::replace) << "\n";

@@ -32,7 +32,7 @@ int run(const std::vector<std::string>& args) {
         return kBadInput;
     }
     const std::string& file = args.back();
-    const sim::Json transcript = native::runScenarioText(native::readWholeFile(file));
+    const sim::Json transcript = native::runScenarioText(sim::readWholeFile(file));
     std::cout << (text ? sim::textReport(transcript) : jsonText(transcript));
     return 0;
 }
@@ -51,7 +51,7 @@ int demo() {
     for (const auto& file : files) {
         const std::string title = "== " + file.filename().string() + " ";
         std::cout << title << std::string(title.size() < 72 ? 72 - title.size() : 0, '=') << "\n\n";
-        std::cout << sim::textReport(native::runScenarioText(native::readWholeFile(file.string())))
+        std::cout << sim::textReport(native::runScenarioText(sim::readWholeFile(file.string())))
                   << "\n";
     }
     return 0;

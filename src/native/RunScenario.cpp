@@ -1,8 +1,5 @@
 #include "native/RunScenario.h"
 
-#include <fstream>
-#include <sstream>
-
 #include "native/SimPlatform.h"
 #include "sim/ScenarioLoader.h"
 
@@ -18,14 +15,6 @@ sim::Json runScenario(sim::Scenario scenario) {
 
 sim::Json runScenarioText(const std::string& utf8Json) {
     return runScenario(std::move(*sim::loadScenario(utf8Json)));
-}
-
-std::string readWholeFile(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    if (!in) throw sim::ScenarioError(path + ": cannot open the file");
-    std::ostringstream content;
-    content << in.rdbuf();
-    return content.str();
 }
 
 }  // namespace native

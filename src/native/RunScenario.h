@@ -12,7 +12,4 @@ namespace native {
 sim::Json runScenarioText(const std::string& utf8Json);
 sim::Json runScenario(sim::Scenario scenario);
 
-// The bytes of a file; raises sim::ScenarioError when it cannot be read.
-std::string readWholeFile(const std::string& path);
-
 }  // namespace native

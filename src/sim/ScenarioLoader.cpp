@@ -1,5 +1,8 @@
 #include "sim/ScenarioLoader.h"
 
+#include <fstream>
+#include <sstream>
+
 #include "sim/JsonCheck.h"
 #include "sim/UiActions.h"
 
@@ -207,6 +210,14 @@ std::unique_ptr<Scenario> loadScenario(const std::string& text) {
             scenario->calls.push_back(loadCall(root["calls"][i], at("calls", i)));
     }
     return scenario;
+}
+
+std::string readWholeFile(const std::string& path) {
+    std::ifstream in(path, std::ios::binary);
+    if (!in) throw ScenarioError(path + ": cannot open the file");
+    std::ostringstream content;
+    content << in.rdbuf();
+    return content.str();
 }
 
 }  // namespace sim

@@ -17,4 +17,7 @@ class ScenarioError : public std::runtime_error {
 // `text` is the file's UTF-8 content. Raises ScenarioError.
 std::unique_ptr<Scenario> loadScenario(const std::string& text);
 
+// The bytes of a scenario (or golden) file; raises ScenarioError when it cannot be read.
+std::string readWholeFile(const std::string& path);
+
 }  // namespace sim

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "native/RunScenario.h"
+#include "sim/ScenarioLoader.h"
 
 namespace {
 
@@ -64,9 +65,9 @@ class Golden : public ::testing::TestWithParam<std::string> {};
 
 TEST_P(Golden, TranscriptMatches) {
     const fs::path scenario = scenariosRoot() / GetParam();
-    const Plain expected = Plain::parse(native::readWholeFile(goldenOf(scenario).string()));
+    const Plain expected = Plain::parse(sim::readWholeFile(goldenOf(scenario).string()));
     const Plain actual =
-        Plain::parse(native::runScenarioText(native::readWholeFile(scenario.string())).dump());
+        Plain::parse(native::runScenarioText(sim::readWholeFile(scenario.string())).dump());
     EXPECT_TRUE(expected == actual) << GetParam() << " differs from its golden:\n"
                                     << readableDiff(expected, actual);
 }
