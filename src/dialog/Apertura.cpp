@@ -6,7 +6,7 @@
 
 namespace dialog {
 
-void muestraDialogo(handlers::Env& env) {
+void muestraDialogo(env::Env& env) {
     if (!env.dialogView)
         throw vb::RuntimeError(vb::err::kCantCreateObject,
                                u"The special-editing dialog is not available in this build");

@@ -1,14 +1,14 @@
 #pragma once
 // What both components handlers share: showing the dialog through the shell's view, the
 // error trap's message, and the missing-catalogue message.
-#include "handlers/Env.h"
+#include "env/Env.h"
 #include "vb/Errors.h"
 
 namespace dialog {
 
 // Creates the form and shows it modally through env.dialogView; a build without a dialog
 // raises a runtime error, which the handler's trap reports.
-void muestraDialogo(handlers::Env& env);
+void muestraDialogo(env::Env& env);
 
 // "Error 13: ..." with the information icon, or "Error no controlado num. N. ..." with the
 // critical-stop icon, captioned "¡¡Atención!!".

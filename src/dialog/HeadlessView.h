@@ -3,13 +3,13 @@
 // scenario's user actions against it, reporting what happens to an observer.
 #include <vector>
 
-#include "dialog/DialogView.h"
 #include "dialog/UserAction.h"
+#include "env/DialogView.h"
 #include "platform/Platform.h"
 
 namespace dialog {
 
-class HeadlessView : public DialogView {
+class HeadlessView : public env::DialogView {
   public:
     HeadlessView(const std::vector<UserAction>& actions, DialogObserver& observer,
                  platform::Platform& platform);

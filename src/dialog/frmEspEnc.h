@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "dialog/Controles.h"
-#include "handlers/Env.h"
+#include "env/Env.h"
 #include "handlers/Textos.h"
 #include "rules/ModVariables.h"
 
@@ -26,7 +26,7 @@ inline const String kCaptionAtencion = u"\u00A1\u00A1Atenci\u00F3n!!";
 
 class frmEspEnc {
   public:
-    explicit frmEspEnc(handlers::Env& env);
+    explicit frmEspEnc(env::Env& env);
 
     // ---- controls (design in frmEspEnc_Diseno.cpp) ----
     String Caption;  // the window title
@@ -158,7 +158,7 @@ class frmEspEnc {
     // Host context and platform of the current call.
     rules::ModVariables& mv() { return mv_; }
     platform::Platform& plataforma() { return env_.platform; }
-    handlers::Env& env() { return env_; }
+    env::Env& env() { return env_; }
 
   private:
     void diseno();
@@ -188,7 +188,7 @@ class frmEspEnc {
     bool exportaImagen(const String& nombre, const String& ruta);
     void creaCarpetaTemporal();
 
-    handlers::Env& env_;
+    env::Env& env_;
     rules::ModVariables& mv_;
     bool cargado_ = false;
     bool descargado_ = false;

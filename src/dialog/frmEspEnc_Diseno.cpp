@@ -144,7 +144,7 @@ void disenaDiagonales(frmEspEnc& f) {
 
 }  // namespace
 
-frmEspEnc::frmEspEnc(handlers::Env& env) : env_(env), mv_(rules::modVariables()) {
+frmEspEnc::frmEspEnc(env::Env& env) : env_(env), mv_(rules::modVariables()) {
     diseno();
 }
 

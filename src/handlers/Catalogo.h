@@ -2,10 +2,12 @@
 // Finding the catalogue directory and an object's catalogue file, and loading it in the host.
 #include <cstdint>
 
-#include "handlers/Env.h"
+#include "env/Env.h"
 #include "vb/Variant.h"
 
 namespace handlers {
+
+using env::Env;
 
 using vb::String;
 

@@ -3,9 +3,11 @@
 // `Wizard.OnObjectComponents`: shows the object's references; false for "forma10".
 #include <cstdint>
 
-#include "handlers/Env.h"
+#include "env/Env.h"
 
 namespace handlers {
+
+using env::Env;
 
 bool componentesB(Env& env, int32_t lCallParamsBlock);
 

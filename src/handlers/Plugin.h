@@ -3,11 +3,13 @@
 // interface's parameter shapes (references where the caller's variable may be written).
 #include <cstdint>
 
-#include "handlers/Env.h"
+#include "env/Env.h"
 #include "host/Host.h"
 #include "vb/Variant.h"
 
 namespace handlers {
+
+using env::Env;
 
 using vb::String;
 using vb::Variant;

@@ -4,7 +4,7 @@
 
 namespace sim {
 
-std::unique_ptr<dialog::DialogView> makeDialogView(const std::vector<dialog::UserAction>& actions,
+std::unique_ptr<env::DialogView> makeDialogView(const std::vector<dialog::UserAction>& actions,
                                                    dialog::DialogObserver& observer,
                                                    platform::Platform& platform) {
     return std::make_unique<dialog::HeadlessView>(actions, observer, platform);

@@ -4,13 +4,13 @@
 #include <memory>
 #include <vector>
 
-#include "dialog/DialogView.h"
+#include "env/DialogView.h"
 #include "dialog/UserAction.h"
 #include "platform/Platform.h"
 
 namespace sim {
 
-std::unique_ptr<dialog::DialogView> makeDialogView(const std::vector<dialog::UserAction>& actions,
+std::unique_ptr<env::DialogView> makeDialogView(const std::vector<dialog::UserAction>& actions,
                                                    dialog::DialogObserver& observer,
                                                    platform::Platform& platform);
 

@@ -47,7 +47,7 @@ void Player::play(const CallSpec& call) {
     vb::setDecimalSeparator(sim_.world().application.decimalSeparator);
     state.call = {block, &call};
     recorder.beginCall(call.className, call.method);
-    std::unique_ptr<dialog::DialogView> view;
+    std::unique_ptr<env::DialogView> view;
     MethodOutcome outcome;
     Json error = nullptr;
     try {

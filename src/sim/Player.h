@@ -4,7 +4,7 @@
 // becomes the call's `error`, anything else error 440 "Automation error: ...".
 #include <memory>
 
-#include "handlers/Env.h"
+#include "env/Env.h"
 #include "handlers/Plugin.h"
 #include "sim/Dispatch.h"
 #include "sim/HostState.h"
@@ -48,7 +48,7 @@ class Player {
 
     Simulation& sim_;
     platform::Platform& platform_;
-    handlers::Env env_;
+    env::Env env_;
     handlers::Plugin plugin_;
     wizard::Wizard wizard_;
     int32_t callsPlayed_ = 0;

@@ -3,7 +3,7 @@
 // `_Wizard` interface.
 #include <cstdint>
 
-#include "handlers/Env.h"
+#include "env/Env.h"
 #include "host/Host.h"
 #include "vb/Variant.h"
 
@@ -14,7 +14,7 @@ struct Fabricante;
 
 class Wizard {
   public:
-    explicit Wizard(handlers::Env& env) : env_(env) {}
+    explicit Wizard(env::Env& env) : env_(env) {}
 
     bool casoForma(int32_t lCallParamsBlock);
     bool casoXey(int32_t lCallParamsBlock);
@@ -32,7 +32,7 @@ class Wizard {
     bool modeloValido(String& refer, String& code, String& script);
     bool ObjectWizard(int32_t lCallParamsBlock);
 
-    handlers::Env& env() { return env_; }
+    env::Env& env() { return env_; }
 
   private:
     // A cabinet's measures: the catalogue's and the current ones.
@@ -44,7 +44,7 @@ class Wizard {
     void reglaAncho(const Fabricante& f, const Medidas& m);
     void muestra(const String& text);
 
-    handlers::Env& env_;
+    env::Env& env_;
     // The placement path's own host objects and session (not the shared context).
     host::AppliRef wAppli;
     host::SceneRef wScene;

@@ -18,7 +18,7 @@ bool esCatalogoPropio(const vb::Variant& numero) {
 }
 
 // The work of an open session; true when the object is not of the three catalogues.
-bool abreDialogo(Wizard& w, handlers::Env& env) {
+bool abreDialogo(Wizard& w, env::Env& env) {
     auto& mv = rules::modVariables();
     auto& scene = host::use(mv.miScene);
     mv.dirCatalogos = handlers::leeDirCatalogosTexto(env);

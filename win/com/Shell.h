@@ -5,7 +5,7 @@
 
 #include "com/ErrorBoundary.h"
 #include "dialog/Win32DialogView.h"
-#include "handlers/Env.h"
+#include "env/Env.h"
 #include "host/DispatchHost.h"
 #include "platform/Win32Platform.h"
 #include "vb/Conversions.h"
@@ -24,7 +24,7 @@ class Shell {
     Win32Platform platform_;
     DispatchFactory factory_;
     Win32DialogView dialogView_{platform_};
-    handlers::Env env_{platform_, factory_, &dialogView_};
+    env::Env env_{platform_, factory_, &dialogView_};
 };
 
 }  // namespace quorbel

@@ -143,7 +143,7 @@ struct Banco {
     Mundo mundo;
     Platform plataforma{mundo};
     Factory fabrica;
-    handlers::Env env{plataforma, fabrica, nullptr};
+    env::Env env{plataforma, fabrica, nullptr};
     std::unique_ptr<dialog::frmEspEnc> form;
 
     Banco() {

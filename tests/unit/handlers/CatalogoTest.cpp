@@ -36,7 +36,7 @@ TEST_P(Ini, SectionOrderAndCut) {
     world.files.putFile(u"C:\\Quorbel\\SPACE.INI", GetParam().ini);
     sim::Simulation simulation(std::move(world));
     native::SimPlatform platform(simulation);
-    handlers::Env env{platform, simulation.factory()};
+    env::Env env{platform, simulation.factory()};
     EXPECT_EQ(handlers::leeDirCatalogos(env), GetParam().expected);
 }
 
@@ -66,7 +66,7 @@ class IniTexto : public testing::TestWithParam<TextCase> {};
 TEST_P(IniTexto, Reads) {
     fake::Platform platform;
     fake::Factory factory;
-    handlers::Env env{platform, factory};
+    env::Env env{platform, factory};
     platform.textLines = GetParam().lines;
     EXPECT_EQ(handlers::leeDirCatalogosTexto(env), GetParam().expected);
 }
@@ -90,7 +90,7 @@ class Busqueda : public testing::Test {
     rules::ModVariables& mv = rules::modVariables();
     fake::Platform platform;
     fake::Factory factory;
-    handlers::Env env{platform, factory};
+    env::Env env{platform, factory};
 };
 
 TEST_F(Busqueda, DirectPathFirst) {

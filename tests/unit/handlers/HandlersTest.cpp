@@ -51,7 +51,7 @@ class Handlers : public testing::Test {
     }
     fake::Platform platform;
     fake::Factory host;
-    handlers::Env env{platform, host};
+    env::Env env{platform, host};
     handlers::Plugin plugin{env};
 };
 

@@ -102,7 +102,7 @@ TEST_P(Casos, Decide) {
     const Case& c = GetParam();
     fake::Platform platform;
     fake::Factory host;
-    handlers::Env env{platform, host};
+    env::Env env{platform, host};
     wizard::Wizard wizard{env};
     const std::map<int, String> medidas = {{3, u"600"}, {4, u"560"}, {5, u"720"}};
     for (const char16_t* ref : {u"0446X", u"1000A", u"2501A", u"KBR1", u"ZZZ1"}) {
@@ -140,7 +140,7 @@ INSTANTIATE_TEST_SUITE_P(Cases, Casos, testing::ValuesIn(kCases),
 TEST(WizardSetUp, InicEspForgetsMarkerChildren) {
     fake::Platform platform;
     fake::Factory host;
-    handlers::Env env{platform, host};
+    env::Env env{platform, host};
     wizard::Wizard wizard{env};
     rules::modVariables().hayHijoEsp.fill(true);
     wizard.InicEsp();

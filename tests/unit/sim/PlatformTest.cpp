@@ -146,7 +146,7 @@ TEST(CatalogueDirectory, SectionsInTheCallersOrder) {
         if (c.ini) world.files.putFile(u"C:\\Quorbel\\SPACE.INI", c.ini);
         sim::Simulation simulation(std::move(world));
         native::SimPlatform platform(simulation);
-        handlers::Env env{platform, simulation.factory(), nullptr};
+        env::Env env{platform, simulation.factory(), nullptr};
         EXPECT_EQ(handlers::leeDirCatalogos(env), c.expected)
             << (c.ini ? vb::toUtf8(c.ini) : "none");
     }
@@ -154,7 +154,7 @@ TEST(CatalogueDirectory, SectionsInTheCallersOrder) {
     world.files.putFile(u"C:\\Quorbel\\SPACE.INI", u"[InSitu]\r\nCatalogsDir=" + long70);
     sim::Simulation simulation(std::move(world));
     native::SimPlatform platform(simulation);
-    handlers::Env env{platform, simulation.factory(), nullptr};
+    env::Env env{platform, simulation.factory(), nullptr};
     EXPECT_EQ(handlers::leeDirCatalogos(env), long70.substr(0, 63));
 }
 

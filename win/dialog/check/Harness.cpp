@@ -73,7 +73,7 @@ std::exception_ptr showForm(const std::function<void(dialog::frmEspEnc&)>& prepa
                             const std::function<void(HWND)>& ownerChanged) {
     NoPlatform platform;
     NoFactory factory;
-    handlers::Env env{platform, factory, nullptr};
+    env::Env env{platform, factory, nullptr};
     dialog::frmEspEnc form(env);
     form.Caption = u"Edici\u00F3n de especiales - B60-TIBER";
     prepare(form);

@@ -1,16 +1,17 @@
 #pragma once
 // What a shell hands to the plug-in's classes: the platform, the host object factory and the
-// dialog view (null where this build has no dialog).
-#include "dialog/DialogView.h"
+// dialog view (null where this build has no dialog). The handlers, the wizard and the dialog
+// all sit above it.
+#include "env/DialogView.h"
 #include "host/Factory.h"
 #include "platform/Platform.h"
 
-namespace handlers {
+namespace env {
 
 struct Env {
     platform::Platform& platform;
     host::Factory& factory;
-    dialog::DialogView* dialogView = nullptr;
+    DialogView* dialogView = nullptr;
 };
 
-}  // namespace handlers
+}  // namespace env
