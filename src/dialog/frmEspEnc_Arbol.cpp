@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <unordered_set>
 
-#include "dialog/Lectura.h"
 #include "dialog/frmEspEnc.h"
 #include "vb/Conversions.h"
 #include "vb/Strings.h"
@@ -83,9 +82,9 @@ void frmEspEnc::clasificaHijo(int32_t child, bool& tieneHijos, std::array<int16_
     auto& scene = use(mv_.miScene);
     int32_t& sid = mv_.miSessionId;
     String code = CStr(scene.ObjectGetInfo(sid, child, 4));
-    bool fitL = bandera(scene.ObjectGetInfo(sid, child, 15));
-    bool fitP = bandera(scene.ObjectGetInfo(sid, child, 16));
-    bool fitH = bandera(scene.ObjectGetInfo(sid, child, 17));
+    bool fitL = vb::CBool(scene.ObjectGetInfo(sid, child, 15));
+    bool fitP = vb::CBool(scene.ObjectGetInfo(sid, child, 16));
+    bool fitH = vb::CBool(scene.ObjectGetInfo(sid, child, 17));
     String script = CStr(scene.ObjectGetScript(sid, child));
     bool fits =
         limitesScript(script, fitL, fitH, fitP, mv_.medidaAncho, mv_.medidaAlto, mv_.medidaFondo);

@@ -55,7 +55,8 @@ def catalogue():
 
 
 def comp(oid, code, text, chosen="0", listed="1", **more):
-    info = {"4": code, "5": text, "58": listed, "59": chosen}
+    # 15, 16, 17: no limit checks (the flags are read as booleans, so every component has them)
+    info = {"4": code, "5": text, "15": "0", "16": "0", "17": "0", "58": listed, "59": chosen}
     info.update(more.pop("info", {}))
     o = {"id": oid, "info": info}
     o.update(more)

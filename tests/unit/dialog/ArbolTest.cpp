@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "FakeDialogo.h"
+#include "vb/Errors.h"
 
 namespace {
 
@@ -12,6 +13,7 @@ fakedlg::Objeto componente(const char16_t* code, const char16_t* text,
     o.info[4] = code;
     o.info[5] = text;
     o.info[58] = u"1";
+    for (int32_t flag : {15, 16, 17}) o.info[flag] = u"0";
     o.hijos = std::move(hijos);
     return o;
 }
@@ -60,10 +62,29 @@ TEST(RecorreHijos, SharedSubtreesAndDeepChainsStayBounded) {
     // A chain far deeper than any cabinet.
     m[-2].hijos.push_back(1000);
     for (int32_t id = 1000; id < 6000; ++id) m[id] = componente(u"Z", u"z", {id + 1});
+    m[6000] = componente(u"Z", u"z");
     bool tieneHijos = false;
     auto& f = banco.f();
     f.recorreHijos(-2, tieneHijos, f.numListas, f.nivelArbol);
     EXPECT_EQ(f.listComponentes[3].entries.size(), 81u);  // 1 + 2 per level below
+}
+
+TEST(ClasificaHijo, FlagsThatAreNotBooleansAreATypeMismatch) {
+    for (const char16_t* flag : {u"", u"s\u00ED", u" 1x"}) {
+        fakedlg::Banco banco;
+        auto& m = banco.mundo.objetos;
+        m[-2].hijos = {1};
+        m[1] = componente(u"CS_1", u"Lado");
+        m[1].info[16] = flag;
+        auto& f = banco.f();
+        bool tieneHijos = false;
+        try {
+            f.recorreHijos(-2, tieneHijos, f.numListas, f.nivelArbol);
+            ADD_FAILURE() << "no error";
+        } catch (const vb::RuntimeError& e) {
+            EXPECT_EQ(e.number(), 13);
+        }
+    }
 }
 
 }  // namespace
