@@ -180,9 +180,10 @@ class frmEspEnc {
     void escribeMedidas();
     void escribeTipo(int t, const String& valor);
     void limpiaTipos();
-    struct Recorrido;  // objects already walked and the current depth
-    void recorreDesde(int32_t id, bool& tieneHijos, std::array<int16_t, 5>& cuentas, int16_t& nivel,
-                      Recorrido& recorrido);
+    struct Recorrido;  // the levels being walked and the objects already walked
+    void entraEn(int32_t id, Recorrido& recorrido);
+    bool siguienteHijo(bool& tieneHijos, std::array<int16_t, 5>& cuentas, int16_t& nivel,
+                       Recorrido& recorrido);
     void listaComponente(int32_t child, int lista, std::array<int16_t, 5>& cuentas, int16_t nivel,
                          const String& script);
     bool exportaImagen(const String& nombre, const String& ruta);

@@ -5,6 +5,7 @@ by reading before they are committed."""
 import copy
 import json
 import os
+import sys
 
 HERE = os.path.dirname(os.path.abspath(__file__))
 
@@ -219,7 +220,21 @@ SCENARIOS = {
     # Two recess values left empty: the missing-value text is looked up at each of them.
     "recess_values_missing": [call([lclick(4, 0), typed("TxtValoresEnc", 0, "\b"),
                                     typed("TxtValoresEnc", 1, "\b"), ACCEPT, EXIT])],
+    # A component 2,000 levels down is classified, listed with the last prefix and chosen.
+    "deep_component": [call([SNAP, lclick(3, 1), ACCEPT])],
 }
+
+DEEP_LEVELS = 2000
+COMPACT = {"deep_component"}  # indented, its nesting alone would take megabytes
+
+
+def deep_chain(levels):
+    """A chain of unlisted components (no code) ending, `levels` down, in a listed "Otros"."""
+    node = comp(3000 + levels, "O_FONDO", "Pieza al fondo")
+    for level in range(levels - 1, 0, -1):
+        node = {"id": 3000 + level, "info": {"15": "0", "16": "0", "17": "0"},
+                "children": [node]}
+    return node
 
 
 def recess_cabinet(count, params, others=0):
@@ -262,6 +277,10 @@ def scene_for(name):
         return [cabinet(400, file_name="perdido")]
     if name == "limits_after_a_failure":
         return [cabinet(width="650", height="750", depth="600")]
+    if name == "deep_component":
+        c = cabinet()
+        c["children"].append(deep_chain(DEEP_LEVELS))
+        return [c]
     return [cabinet()]
 
 
@@ -309,6 +328,7 @@ DEMO_FILE = os.path.join(HERE, "..", "..", "..", "samples", "dialog", "12_dialog
 
 
 def main():
+    sys.setrecursionlimit(10 * DEEP_LEVELS)  # the encoder recurses once per nesting level
     for name, calls in SCENARIOS.items():
         data = world(scene_for(name), calls, catalogues_for(name))
         if name in ("captions_translated", "captions_missing_keys"):
@@ -318,7 +338,10 @@ def main():
             data["application"]["language"] = "esp"
             data["application"]["dictionary"] = {"esp": {"Atención": "ATENCION"}}
         with open(os.path.join(HERE, name + ".json"), "w", encoding="utf-8") as f:
-            json.dump(data, f, ensure_ascii=False, indent=1)
+            if name in COMPACT:
+                json.dump(data, f, ensure_ascii=False, separators=(",", ":"))
+            else:
+                json.dump(data, f, ensure_ascii=False, indent=1)
             f.write("\n")
     with open(DEMO_FILE, "w", encoding="utf-8") as f:
         json.dump(world([cabinet()], DEMO), f, ensure_ascii=False, indent=1)

@@ -52,21 +52,51 @@ TEST(RecorreHijos, AHostAnswerThatRepeatsAnAncestorIsNotWalkedAgain) {
     EXPECT_EQ(f.listComponentes[3].entries.size(), 4u);  // each listed once more, no deeper
 }
 
-TEST(RecorreHijos, SharedSubtreesAndDeepChainsStayBounded) {
+TEST(RecorreHijos, SharedSubtreesAreWalkedOnce) {
     fakedlg::Banco banco;
     auto& m = banco.mundo.objetos;
     // Every level names the next one twice: walked once per object, not 2^n times.
     m[-2].hijos = {1};
     for (int32_t id = 1; id <= 40; ++id) m[id] = componente(u"O_x", u"x", {id + 1, id + 1});
     m[41] = componente(u"O_x", u"x");
-    // A chain far deeper than any cabinet.
-    m[-2].hijos.push_back(1000);
-    for (int32_t id = 1000; id < 6000; ++id) m[id] = componente(u"Z", u"z", {id + 1});
-    m[6000] = componente(u"Z", u"z");
     bool tieneHijos = false;
     auto& f = banco.f();
     f.recorreHijos(-2, tieneHijos, f.numListas, f.nivelArbol);
     EXPECT_EQ(f.listComponentes[3].entries.size(), 81u);  // 1 + 2 per level below
+}
+
+// A chain of `niveles` components below the edited object, ids 1.. down; only the last one is
+// listed ("Otros").
+fakedlg::Banco& cadena(fakedlg::Banco& banco, int32_t niveles) {
+    auto& m = banco.mundo.objetos;
+    m[-2].hijos = {1};
+    for (int32_t id = 1; id < niveles; ++id) m[id] = componente(u"Z", u"z", {id + 1});
+    m[niveles] = componente(u"O_FONDO", u"Al fondo");
+    return banco;
+}
+
+TEST(RecorreHijos, AChainDeeperThanAnyStackIsWalkedToItsEnd) {
+    fakedlg::Banco banco;
+    auto& f = cadena(banco, 30000).f();
+    bool tieneHijos = false;
+    f.recorreHijos(-2, tieneHijos, f.numListas, f.nivelArbol);
+    ASSERT_EQ(f.listComponentes[3].entries.size(), 1u);
+    EXPECT_EQ(f.listComponentes[3].entries[0].text, u"        ==>Al fondo");  // the last prefix
+    EXPECT_EQ(f.idsListas[3][0], 30000);
+    EXPECT_EQ(f.nivelArbol, 0);  // the flag stays false: every finished level goes back up
+}
+
+TEST(RecorreHijos, TheSixteenBitDepthCounterOverflowsAsVbDoes) {
+    fakedlg::Banco banco;
+    auto& f = cadena(banco, 32769).f();
+    bool tieneHijos = false;
+    try {
+        f.recorreHijos(-2, tieneHijos, f.numListas, f.nivelArbol);
+        FAIL() << "no error";
+    } catch (const vb::RuntimeError& e) {
+        EXPECT_EQ(e.number(), 6);
+    }
+    EXPECT_EQ(f.nivelArbol, 32767);
 }
 
 TEST(ClasificaHijo, FlagsThatAreNotBooleansAreATypeMismatch) {
