@@ -1,6 +1,7 @@
 // The frame: loading in its fixed order, caption translation, the recess panel's scrolling,
 // press feedback and the write-back at unload.
 #include "dialog/Registro.h"
+#include "dialog/TextoCajeos.h"
 #include "dialog/frmEspEnc.h"
 #include "handlers/Catalogo.h"
 #include "rules/Refresco.h"
@@ -61,8 +62,7 @@ void frmEspEnc::leeObjeto() {
     auto& catalog = use(mv_.miCatalog);
     int32_t& sid = mv_.miSessionId;
     textoCajeos = CStr(scene.ObjectGetInfo(sid, -2, 53));
-    mv_.docCajeos = plataforma().createXmlDocument();
-    mv_.docCajeos->loadXML(textoCajeos);
+    mv_.docCajeos = cargaCajeos(plataforma(), textoCajeos);
     rules::iniciaPrefijosEsp();
     medidasActuales = {mv_.medidaAncho, mv_.medidaAlto, mv_.medidaFondo, u""};
     String nombre = CStr(scene.ObjectGetInfo(sid, -2, 7));

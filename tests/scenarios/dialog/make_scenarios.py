@@ -220,6 +220,17 @@ SCENARIOS = {
     # Two recess values left empty: the missing-value text is looked up at each of them.
     "recess_values_missing": [call([lclick(4, 0), typed("TxtValoresEnc", 0, "\b"),
                                     typed("TxtValoresEnc", 1, "\b"), ACCEPT, EXIT])],
+    # Labels and a title with "&" and "<", copied into the cut-out document as they are: the
+    # value above its maximum is refused, the corrected ones are stored and annotated, and
+    # they come back on reopening.
+    "cut_out_texts": [
+        call([lclick(4, 0), typed("TxtValoresEnc", 0, "\b\b\b900"), ACCEPT,
+              typed("TxtValoresEnc", 0, "\b\b\b120"), typed("TxtValoresEnc", 1, "\b\b\b80"),
+              lclick(4, 1), typed("TxtValoresEnc", 2, "\b\b\b30"), ACCEPT]),
+        call([SNAP, EXIT])],
+    # Flags 15, 16, 17 that are no booleans: on the object, then on a component (the error
+    # trap, no dialog); then texts VB does read as booleans.
+    "flags_not_boolean": [call([], obj=100), call([], obj=200), call([SNAP, EXIT], obj=300)],
     # A component 2,000 levels down is classified, listed with the last prefix and chosen.
     "deep_component": [call([SNAP, lclick(3, 1), ACCEPT])],
 }
@@ -277,6 +288,20 @@ def scene_for(name):
         return [cabinet(400, file_name="perdido")]
     if name == "limits_after_a_failure":
         return [cabinet(width="650", height="750", depth="600")]
+    if name == "cut_out_texts":
+        c = cabinet()
+        c["children"][-2]["info"]["5"] = "Pilar <dcho.> & Cía"
+        c["children"][-2]["script"] = "/// PILAR1 ENC3(MIN=10,MAX=@P)"
+        return [c]
+    if name == "flags_not_boolean":
+        on_object = cabinet(100)
+        on_object["info"]["17"] = "sí"
+        on_component = cabinet(200)
+        on_component["children"][7]["info"]["16"] = ""
+        read_as_vb = cabinet(300)
+        read_as_vb["info"].update({"15": "True", "16": "0", "17": " 1 "})
+        read_as_vb["children"][7]["info"].update({"15": "tRUE", "16": "#FALSE#", "17": "-2.5"})
+        return [on_object, on_component, read_as_vb]
     if name == "deep_component":
         c = cabinet()
         c["children"].append(deep_chain(DEEP_LEVELS))
@@ -307,6 +332,12 @@ def catalogues_for(name):
         return {"C:\\Cat\\cocina.cat": offered_catalogue()}
     if name == "wizard_catalogues":
         return {"C:\\Cat\\cocina.cat": catalogue(), "C:\\Cat\\forma10.cat": catalogue()}
+    if name == "cut_out_texts":
+        cat = catalogue()
+        for line in cat["tables"]["2"]:
+            if line["code"] in ("ENC1", "ENC2"):
+                line["cols"]["9"] = {"ENC1": "Prof. & alto", "ENC2": "A<B"}[line["code"]]
+        return {"C:\\Cat\\cocina.cat": cat}
     if name == "captions_missing_keys":
         cat = catalogue()
         missing = {"TR_0002", "TR_0027", "TR_0024"}
