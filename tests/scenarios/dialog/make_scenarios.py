@@ -205,7 +205,11 @@ SCENARIOS = {
     # Many recesses: the panel scrolls.
     "recess_panel_scrolls": [call([{"do": "scroll", "value": 900}, SNAP,
                                    {"do": "scroll", "value": 100000}, SNAP, EXIT])],
-    # Hundreds of components and recesses load; rows stop where the panel height ends.
+    # 62 recesses of two values each overflow the 16-bit panel: every title is shown, the
+    # last recesses without their values, and the message says from which one.
+    "recess_panel_full": [call([SNAP, lclick(4, 21), typed("TxtValoresEnc", 42, "\b\b\b100"),
+                                lclick(4, 61), ACCEPT])],
+    # Hundreds of components and recesses load; titles come first where the panel height ends.
     "hundreds_of_components": [call([lclick(4, 0), lclick(4, 119), lclick(3, 250), ACCEPT])],
     # Picture names that would leave the temporary folder or name a device are not exported.
     "picture_names": [call([lclick(4, 0), lclick(4, 2), SNAP, EXIT])],
@@ -264,6 +268,8 @@ def recess_cabinet(count, params, others=0):
 def scene_for(name):
     if name == "recess_panel_scrolls":
         return [recess_cabinet(6, 3)]
+    if name == "recess_panel_full":
+        return [recess_cabinet(62, 2)]
     if name == "hundreds_of_components":
         return [recess_cabinet(120, 1, 300)]
     if name == "picture_names":
