@@ -27,7 +27,9 @@ foreach(dir IN LISTS unit_dirs)
       add_executable(test_${area} ${test_sources})
       target_link_libraries(test_${area} PRIVATE quorbel_sim GTest::gtest_main)
       target_compile_definitions(test_${area} PRIVATE QUORBEL_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
-      gtest_discover_tests(test_${area} PROPERTIES LABELS native DISCOVERY_TIMEOUT 60)
+      # Named cases: the test name is the case's name, without gtest's printed parameter.
+      gtest_discover_tests(test_${area} NO_PRETTY_VALUES PROPERTIES LABELS native
+                           DISCOVERY_TIMEOUT 60)
     endif()
   endif()
 endforeach()
