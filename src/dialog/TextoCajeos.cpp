@@ -42,10 +42,17 @@ bool esReferenciaCaracter(const String& cuerpo) {
     return esCaracterXml(valor);
 }
 
+// Position of the first `c` after `i` within `maximo` characters, or npos.
+size_t cercano(const String& t, size_t i, char16_t c, size_t maximo) {
+    for (size_t j = i + 1; j < t.size() && j <= i + maximo; ++j)
+        if (t[j] == c) return j;
+    return String::npos;
+}
+
 // Length of the reference that starts at `i` (a "&"), or 0 when none starts there.
 size_t referenciaEn(const String& t, size_t i) {
-    size_t fin = t.find(u';', i + 1);
-    if (fin == String::npos || fin - i > 12) return 0;  // no reference is that long
+    const size_t fin = cercano(t, i, u';', 12);  // "&#x10FFFF;" with room for leading zeros
+    if (fin == String::npos) return 0;
     const String cuerpo = t.substr(i + 1, fin - i - 1);
     bool valida =
         !cuerpo.empty() && cuerpo[0] == u'#' ? esReferenciaCaracter(cuerpo.substr(1)) : false;
@@ -55,8 +62,8 @@ size_t referenciaEn(const String& t, size_t i) {
 
 // Length of the format's tag that starts at `i` (a "<"), or 0 when none starts there.
 size_t etiquetaEn(const String& t, size_t i) {
-    size_t fin = t.find(u'>', i + 1);
-    if (fin == String::npos || fin - i > 11) return 0;  // longer than "</VALORMAX>"
+    const size_t fin = cercano(t, i, u'>', 10);  // "</VALORMAX>" is the longest
+    if (fin == String::npos) return 0;
     String nombre = t.substr(i + 1, fin - i - 1);
     if (!nombre.empty() && nombre[0] == u'/') nombre.erase(0, 1);
     for (const char16_t* e : kEtiquetas)

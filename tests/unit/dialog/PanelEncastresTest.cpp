@@ -43,15 +43,6 @@ TEST(EncastresConValores, KeepsValuesWhileEveryTitleStillFits) {
         EXPECT_EQ(dialog::encastresConValores(kAltos, c.encastres), c.conValores) << c.caso;
 }
 
-TEST(AltoDeEncastre, TitleAloneOrWithItsRecordRowsAndGap) {
-    const EncastrePanel conDatos{true, 3}, sinDatos{false, 0};
-    EXPECT_EQ(dialog::altoDeEncastre(kAltos, conDatos, 0, true), 3 * 285 + 100);
-    EXPECT_EQ(dialog::altoDeEncastre(kAltos, conDatos, 0, false), 0);
-    EXPECT_EQ(dialog::altoDeEncastre(kAltos, conDatos, 5, true), 100 + 255 + 3 * 285 + 100);
-    EXPECT_EQ(dialog::altoDeEncastre(kAltos, conDatos, 5, false), 255);
-    EXPECT_EQ(dialog::altoDeEncastre(kAltos, sinDatos, 5, true), 100 + 255);
-}
-
 // 140 recesses without data: 128 titles fit, the rest stay in the list only, and the one
 // message says so.
 TEST(PanelEncastres, TitlesThatDoNotFitStayInTheListAndTheMessageSaysSo) {
