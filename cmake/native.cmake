@@ -7,7 +7,8 @@ find_package(benchmark QUIET)
 
 file(GLOB native_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/native/*.cpp)
 file(GLOB sim_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/sim/*.cpp)
-add_library(quorbel_sim STATIC ${native_sources} ${sim_sources})
+file(GLOB lint_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/lint/*.cpp)
+add_library(quorbel_sim STATIC ${native_sources} ${sim_sources} ${lint_sources})
 target_link_libraries(quorbel_sim PUBLIC quorbel_core PkgConfig::LIBXML2 nlohmann_json::nlohmann_json)
 
 file(GLOB app_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/apps/quorbel-sim/*.cpp)
