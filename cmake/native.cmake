@@ -33,6 +33,12 @@ foreach(dir IN LISTS unit_dirs)
   endif()
 endforeach()
 
+# The rule-table check on the samples, with the exit codes the README documents.
+add_test(NAME lint.samples
+         COMMAND ${CMAKE_SOURCE_DIR}/tests/lint/check-samples $<TARGET_FILE:quorbel-sim>
+                 ${CMAKE_SOURCE_DIR})
+set_tests_properties(lint.samples PROPERTIES LABELS native)
+
 if(EXISTS ${CMAKE_SOURCE_DIR}/bench/CMakeLists.txt AND benchmark_FOUND)
   add_subdirectory(bench)
 endif()

@@ -36,6 +36,14 @@ void checkMissing(const Subject& s, const Kind& kind, Report& r) {
                   u"); a line with the text \"EX:\" empties it");
 }
 
+// An article of table 3 or the reference of a cabinet of this catalogue.
+bool isReference(const Subject& s, const String& text) {
+    if (lineByName(s.table(3), text)) return true;
+    for (const auto* cabinet : cabinetsOf(s))
+        if (info(*cabinet, 8) == text) return true;
+    return false;
+}
+
 void checkReference(const Subject& s, const Kind& kind, const String& ref, Report& r) {
     const sim::SceneObject* byArticle = nullptr;
     for (const auto* cabinet : cabinetsOf(s)) {
@@ -82,6 +90,11 @@ void checkLine(const Subject& s, const Kind& kind, const sim::TableLine& line, R
                              u"\"EX:\" for no exceptions");
     const RuleText rule = readRule(text);
     if (rule.rest.empty()) return;  // "EX:": no exceptions
+    if (isReference(s, rule.skipped))
+        r.finding(2, kind.exception,
+                  u"the rules skip the first three characters, " + quoted(rule.skipped) +
+                      u", which are a reference: the list begins after three characters of its "
+                      u"own, as in \"EX: B60-1 B45-1\"");
     if (!rule.blankFourth() && rule.pieces.size() == 1)
         return r.finding(2, kind.exception,
                          u"the fourth character of the text " + quoted(text) +
@@ -94,7 +107,7 @@ void checkLine(const Subject& s, const Kind& kind, const sim::TableLine& line, R
                   u"the fourth character of the text " + quoted(text) +
                       u" is not a blank: the rules skip the first three characters (" +
                       quoted(rule.skipped) + u") and read the references " +
-                      joinedQuoted(rule.pieces));
+                      joinedQuoted(rule.named()));
     if (rule.emptyPiecesAfterFirst())
         r.warning(2, kind.exception,
                   u"two blanks in a row, or a blank at the end, in " + quoted(text) +

@@ -1,5 +1,7 @@
 #include "lint/Lint.h"
 
+#include <algorithm>
+
 #include "lint/Checks.h"
 #include "vb/Conversions.h"
 
@@ -41,6 +43,9 @@ std::vector<Finding> lintWorld(const sim::World& world) {
     for (const sim::CatalogData* catalog : world.catalogs()) {
         Report report(*catalog);
         for (const Check check : kChecks) check(Subject{world, *catalog}, report);
+        // Table by table, each in the order the checks told it.
+        std::stable_sort(report.findings().begin(), report.findings().end(),
+                         [](const Finding& a, const Finding& b) { return a.table < b.table; });
         all.insert(all.end(), report.findings().begin(), report.findings().end());
     }
     return all;

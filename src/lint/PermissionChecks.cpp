@@ -109,13 +109,19 @@ void checkLine(const Subject& s, const Kind& kind, const sim::TableLine& line, R
         return r.finding(2, code,
                          u"the rule text " + quoted(text) +
                              u" does not permit every model: only a blank and ALL in capitals, "
-                             u"with nothing after, do; the rules look up " +
-                             joinedQuoted(rule.pieces) + u" as table-8 codes");
+                             u"with nothing after, do; the rules look these codes up in table 8 "
+                             u"instead: " +
+                             joinedQuoted(rule.named()));
+    if (lineByCode(s.table(8), rule.skipped))
+        r.finding(2, code,
+                  u"the rules skip the first three characters, " + quoted(rule.skipped) +
+                      u", which are a table-8 code: the list begins after three characters of "
+                      u"its own, as in \"MO: M01 M02\"");
     if (!rule.blankFourth())
         r.finding(2, code,
                   u"the fourth character of the rule text " + quoted(text) +
                       u" is not a blank: the rules skip the first three characters (" +
-                      quoted(rule.skipped) + u") and read the codes " + joinedQuoted(rule.pieces));
+                      quoted(rule.skipped) + u") and read the codes " + joinedQuoted(rule.named()));
     if (rule.emptyPiecesAfterFirst())
         r.warning(2, code,
                   u"two blanks in a row, or a blank at the end, in " + quoted(text) +

@@ -41,6 +41,13 @@ bool RuleText::emptyPiecesAfterFirst() const {
     return false;
 }
 
+std::vector<String> RuleText::named() const {
+    std::vector<String> out;
+    for (const auto& piece : pieces)
+        if (!piece.empty()) out.push_back(piece);
+    return out;
+}
+
 RuleText readRule(const String& text) {
     RuleText r;
     r.skipped = text.substr(0, 3);

@@ -31,6 +31,7 @@ struct RuleText {
 
     bool blankFourth() const { return !rest.empty() && rest[0] == u' '; }
     bool emptyPiecesAfterFirst() const;
+    std::vector<String> named() const;  // the pieces that are not empty
 };
 RuleText readRule(const String& text);
 
