@@ -32,8 +32,9 @@ void checkMissing(const Subject& s, const Kind& kind, Report& r) {
     const String text = cell(*lineByCode(other->table(2), kind.exception), 2);
     r.warning(2, kind.exception,
               u"no such line: the rules then keep " + listOf(kind) +
-                  u" of the catalogue used before (" + other->path + u" says " + quoted(text) +
-                  u"); a line with the text \"EX:\" empties it");
+                  u" of the catalogue used before, so after a cabinet of " + other->path +
+                  u" its list " + quoted(text) +
+                  u" still applies here; a line with the text \"EX:\" empties it");
 }
 
 // An article of table 3 or the reference of a cabinet of this catalogue.

@@ -2,7 +2,6 @@
 // How the rules read a catalogue, written once for every check: the seven kinds and their
 // codes, the rule texts of table 2, table-8 door models, and the scene's cabinets.
 #include <array>
-#include <initializer_list>
 #include <vector>
 
 #include "lint/Checks.h"

@@ -93,8 +93,8 @@ INSTANTIATE_TEST_SUITE_P(
                  w["catalogs"]["C:\\Cat\\b.cat"] = other;
              },
              {"b.cat, table 2, line EX_EA: warning: no such line: the rules then keep the width "
-              "exception list of the catalogue used before (C:\\Cat\\a.cat says \"EX: "
-              "B60-TIBER\")"}},
+              "exception list of the catalogue used before, so after a cabinet of C:\\Cat\\a.cat "
+              "its list \"EX: B60-TIBER\" still applies here"}},
         Case{"MissingWithNothingToInheritIsClean",
              [](Json& w) { removeLine(w, 2, "EX_EAF"); },
              {}}));
