@@ -81,28 +81,22 @@ void checkReferences(const Subject& s, const Kind& kind, const RuleText& rule, R
     }
 }
 
-void checkLine(const Subject& s, const Kind& kind, const sim::TableLine& line, Report& r) {
-    const String text = cell(line, 2);
-    if (text.empty())
-        return r.finding(2, kind.exception,
-                         u"the line has no text in column 2, and an empty text does not empty " +
-                             listOf(kind) +
-                             u": the rules keep the list of the catalogue used before; write "
-                             u"\"EX:\" for no exceptions");
-    const RuleText rule = readRule(text);
-    if (rule.rest.empty()) return;  // "EX:": no exceptions
+// How the text is laid out: three characters of its own, a blank, references at single
+// blanks. False when the line is never searched at all.
+bool checkLayout(const Subject& s, const Kind& kind, const String& text, const RuleText& rule,
+                 Report& r) {
     if (isReference(s, rule.skipped))
         r.finding(2, kind.exception,
                   u"the rules skip the first three characters, " + quoted(rule.skipped) +
                       u", which are a reference: the list begins after three characters of its "
                       u"own, as in \"EX: B60-1 B45-1\"");
-    if (!rule.blankFourth() && rule.pieces.size() == 1)
-        return r.finding(2, kind.exception,
-                         u"the fourth character of the text " + quoted(text) +
-                             u" is not a blank, so the rules read one piece, " +
-                             quoted(rule.pieces[0]) +
-                             u", and never search a list of one piece: this line excepts no "
-                             u"cabinet");
+    if (!rule.blankFourth() && rule.pieces.size() == 1) {
+        r.finding(2, kind.exception,
+                  u"the fourth character of the text " + quoted(text) +
+                      u" is not a blank, so the rules read one piece, " + quoted(rule.pieces[0]) +
+                      u", and never search a list of one piece: this line excepts no cabinet");
+        return false;
+    }
     if (!rule.blankFourth())
         r.finding(2, kind.exception,
                   u"the fourth character of the text " + quoted(text) +
@@ -113,7 +107,20 @@ void checkLine(const Subject& s, const Kind& kind, const sim::TableLine& line, R
         r.warning(2, kind.exception,
                   u"two blanks in a row, or a blank at the end, in " + quoted(text) +
                       u" give empty references (the other references still count)");
-    checkReferences(s, kind, rule, r);
+    return true;
+}
+
+void checkLine(const Subject& s, const Kind& kind, const sim::TableLine& line, Report& r) {
+    const String text = cell(line, 2);
+    if (text.empty())
+        return r.finding(2, kind.exception,
+                         u"the line has no text in column 2, and an empty text does not empty " +
+                             listOf(kind) +
+                             u": the rules keep the list of the catalogue used before; write "
+                             u"\"EX:\" for no exceptions");
+    const RuleText rule = readRule(text);
+    if (rule.rest.empty()) return;  // "EX:": no exceptions
+    if (checkLayout(s, kind, text, rule, r)) checkReferences(s, kind, rule, r);
 }
 
 }  // namespace

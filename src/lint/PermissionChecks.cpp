@@ -73,8 +73,8 @@ const sim::SceneObject* wizardCabinet(const Subject& s) {
     for (const auto* cabinet : cabinetsOf(s)) {
         const vb::Variant n(info(*cabinet, 2));
         if (!vb::IsNumeric(n)) continue;
-        const double number = vb::CDbl(n);
-        if (number == 31 || number == 32 || number == 33) return cabinet;
+        const double value = vb::CDbl(n);
+        if (value == 31 || value == 32 || value == 33) return cabinet;
     }
     return nullptr;
 }
@@ -89,6 +89,26 @@ void checkAllForWizard(const Subject& s, const Kind& kind, Report& r) {
                   u", so the Wizard opens its special-editing dialog, and the Wizard reads "
                   u"\"ALL\" as a table-8 code: there no door model may have " +
                   kind.name + u" specials");
+}
+
+// How the text is laid out: three characters of its own, a blank, codes at single blanks.
+void checkLayout(const Subject& s, const String& code, const String& text, const RuleText& rule,
+                 Report& r) {
+    if (lineByCode(s.table(8), rule.skipped))
+        r.finding(2, code,
+                  u"the rules skip the first three characters, " + quoted(rule.skipped) +
+                      u", which are a table-8 code: the list begins after three characters of "
+                      u"its own, as in \"MO: M01 M02\"");
+    if (!rule.blankFourth())
+        r.finding(2, code,
+                  u"the fourth character of the rule text " + quoted(text) +
+                      u" is not a blank: the rules skip the first three characters (" +
+                      quoted(rule.skipped) + u") and read the codes " + joinedQuoted(rule.named()));
+    if (rule.emptyPiecesAfterFirst())
+        r.warning(2, code,
+                  u"two blanks in a row, or a blank at the end, in " + quoted(text) +
+                      u" give empty codes, which name no door model (the other codes still "
+                      u"count)");
 }
 
 void checkLine(const Subject& s, const Kind& kind, const sim::TableLine& line, Report& r) {
@@ -112,21 +132,7 @@ void checkLine(const Subject& s, const Kind& kind, const sim::TableLine& line, R
                              u"with nothing after, do; the rules look these codes up in table 8 "
                              u"instead: " +
                              joinedQuoted(rule.named()));
-    if (lineByCode(s.table(8), rule.skipped))
-        r.finding(2, code,
-                  u"the rules skip the first three characters, " + quoted(rule.skipped) +
-                      u", which are a table-8 code: the list begins after three characters of "
-                      u"its own, as in \"MO: M01 M02\"");
-    if (!rule.blankFourth())
-        r.finding(2, code,
-                  u"the fourth character of the rule text " + quoted(text) +
-                      u" is not a blank: the rules skip the first three characters (" +
-                      quoted(rule.skipped) + u") and read the codes " + joinedQuoted(rule.named()));
-    if (rule.emptyPiecesAfterFirst())
-        r.warning(2, code,
-                  u"two blanks in a row, or a blank at the end, in " + quoted(text) +
-                      u" give empty codes, which name no door model (the other codes still "
-                      u"count)");
+    checkLayout(s, code, text, rule, r);
     checkCodes(s, code, rule, r);
 }
 
