@@ -7,7 +7,8 @@ find_package(benchmark QUIET)
 
 file(GLOB native_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/native/*.cpp)
 file(GLOB sim_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/sim/*.cpp)
-add_library(quorbel_sim STATIC ${native_sources} ${sim_sources})
+file(GLOB lint_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/lint/*.cpp)
+add_library(quorbel_sim STATIC ${native_sources} ${sim_sources} ${lint_sources})
 target_link_libraries(quorbel_sim PUBLIC quorbel_core PkgConfig::LIBXML2 nlohmann_json::nlohmann_json)
 
 file(GLOB app_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/apps/quorbel-sim/*.cpp)
@@ -33,6 +34,12 @@ foreach(dir IN LISTS unit_dirs)
     endif()
   endif()
 endforeach()
+
+# The rule-table check on the samples, with the exit codes the README documents.
+add_test(NAME lint.samples
+         COMMAND ${CMAKE_SOURCE_DIR}/tests/lint/check-samples $<TARGET_FILE:quorbel-sim>
+                 ${CMAKE_SOURCE_DIR})
+set_tests_properties(lint.samples PROPERTIES LABELS native)
 
 if(EXISTS ${CMAKE_SOURCE_DIR}/bench/CMakeLists.txt AND benchmark_FOUND)
   add_subdirectory(bench)

@@ -363,6 +363,22 @@ DEMO = [
 ]
 DEMO_FILE = os.path.join(HERE, "..", "..", "..", "samples", "dialog", "12_dialogo_especiales.json")
 
+# The demo's catalogue also carries the placement messages, so that it is a complete
+# catalogue (quorbel-sim lint finds none missing).
+PLACEMENT_TEXTS = {
+    "TR_9014": "Las medidas modificadas no están permitidas para este modelo de puerta.",
+    "TR_9015": "La medida modificada no está permitida para este modelo de puerta.",
+    "TR_9016": "Se ha restaurado la medida de catálogo.",
+    "TR_9017": "Muebles con medidas no permitidas:",
+    "TR_9021": "Modelo del programa ST: consulte los plazos de entrega.",
+}
+
+
+def demo_catalogue():
+    cat = catalogue()
+    cat["tables"]["2"] += [{"code": k, "cols": {"9": v}} for k, v in PLACEMENT_TEXTS.items()]
+    return {"C:\\Cat\\cocina.cat": cat}
+
 
 def main():
     sys.setrecursionlimit(10 * DEEP_LEVELS)  # the encoder recurses once per nesting level
@@ -381,7 +397,7 @@ def main():
                 json.dump(data, f, ensure_ascii=False, indent=1)
             f.write("\n")
     with open(DEMO_FILE, "w", encoding="utf-8") as f:
-        json.dump(world([cabinet()], DEMO), f, ensure_ascii=False, indent=1)
+        json.dump(world([cabinet()], DEMO, demo_catalogue()), f, ensure_ascii=False, indent=1)
         f.write("\n")
 
 
