@@ -46,3 +46,13 @@ wine_test(wine.hostdriver_checks /usr/lib/wine/wine64 ${CMAKE_BINARY_DIR}/hostdr
 wine_test(wine.dialog_view env QUORBEL_WINE_TEMPLATE=${WINE_SUITE}/template
           ${WINE_TESTS}/dialog-view ${CMAKE_BINARY_DIR}/dialog-view-check.exe)
 set_tests_properties(wine.dialog_view PROPERTIES TIMEOUT 300)
+
+# The version the build carries, read back from both DLLs.
+set(QUORBEL_WIN32_BUILD ${CMAKE_SOURCE_DIR}/build/win32
+    CACHE PATH "The win32 build, whose DLL and package the Wine suite checks too")
+add_executable(version-check ${WINE_TESTS}/version/VersionCheck.cpp)
+target_link_libraries(version-check PRIVATE -static-libgcc -static-libstdc++ -lversion -loleaut32
+                      -lole32)
+set_target_properties(version-check PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
+wine_test(wine.version_resource ${WINE_TESTS}/version-resource ${CMAKE_BINARY_DIR}/version-check.exe
+          ${PROJECT_VERSION} ${CMAKE_BINARY_DIR}/Quorbel.dll ${QUORBEL_WIN32_BUILD}/Quorbel.dll)
