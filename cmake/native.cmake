@@ -15,9 +15,14 @@ file(GLOB app_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/apps/quorbel-sim/*.c
 add_executable(quorbel-sim ${app_sources})
 target_link_libraries(quorbel-sim PRIVATE quorbel_sim)
 target_compile_definitions(quorbel-sim PRIVATE QUORBEL_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
+target_include_directories(quorbel-sim PRIVATE ${QUORBEL_VERSION_DIR})
 
 enable_testing()
 include(GoogleTest)
+string(REPLACE "." "\\." version_pattern "^quorbel-sim ${PROJECT_VERSION}\n$")
+add_test(NAME quorbel_sim.version COMMAND quorbel-sim --version)
+set_tests_properties(quorbel_sim.version PROPERTIES LABELS native
+                     PASS_REGULAR_EXPRESSION "${version_pattern}")
 # One test binary per folder under tests/unit, so that each area builds and fails on its own.
 file(GLOB unit_dirs LIST_DIRECTORIES true ${CMAKE_SOURCE_DIR}/tests/unit/*)
 foreach(dir IN LISTS unit_dirs)
