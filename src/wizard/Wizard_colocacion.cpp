@@ -118,6 +118,11 @@ void Wizard::aplicaCaso(const Fabricante& f, String& ruta) {
         reglaSoloFondo(f, m);
     } else if (f.reglaAncho) {
         reglaAncho(f, m);
+    } else {
+        rules::explica([&] {
+            return u"Door model " + rules::entreComillas(modeloPuerta) +
+                   u" is on the manufacturer's list: no rule of this manufacturer applies.";
+        });
     }
 }
 
