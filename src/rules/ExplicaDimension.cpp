@@ -50,6 +50,19 @@ String modeloDecide(const ModVariables& mv, const String& model, int fila) {
 
 }  // namespace
 
+String nombreTipo(int k) {
+    return kNombres[k];
+}
+String codigoMO(int k) {
+    return kCodigosMO[k];
+}
+String codigoEX(int k) {
+    return kCodigosEX[k];
+}
+String prefijoTipo(int k) {
+    return kPrefijos[k];
+}
+
 String nombreMedida(int32_t dimension) {
     switch (dimension) {
         case 12:

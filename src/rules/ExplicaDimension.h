@@ -29,4 +29,10 @@ String explicaPermiso(const ModVariables& mv, int32_t dimension, const Fila& kin
 // "width", "depth" or "height" for information 12, 13, 14.
 String nombreMedida(int32_t dimension);
 
+// The names the tables use for kind k (0..6): ANCHO .., MO_EA .., EX_EA .., "EA_" ..
+String nombreTipo(int k);
+String codigoMO(int k);
+String codigoEX(int k);
+String prefijoTipo(int k);
+
 }  // namespace rules
