@@ -62,16 +62,19 @@ int demo() {
         std::cerr << "quorbel-sim: no samples/demo.list found beside the program or its sources\n";
         return kBadInput;
     }
-    const auto files = quorbel_sim::demoScenarios(*samples);
-    if (files.empty()) {
+    const auto runs = quorbel_sim::demoScenarios(*samples);
+    if (runs.empty()) {
         std::cerr << "quorbel-sim: " << (*samples / "demo.list").string() << " names no scenario\n";
         return kBadInput;
     }
-    for (const auto& file : files) {
-        const std::string title = "== " + file.filename().string() + " ";
+    for (const auto& demoRun : runs) {
+        const std::string title =
+            "== " + demoRun.file.filename().string() + (demoRun.explained ? ", explained " : " ");
         std::cout << title << std::string(title.size() < 72 ? 72 - title.size() : 0, '=') << "\n\n";
-        std::cout << sim::textReport(native::runScenarioText(sim::readWholeFile(file.string())))
-                  << "\n";
+        native::RunOptions options;
+        options.explain = demoRun.explained;
+        const std::string text = sim::readWholeFile(demoRun.file.string());
+        std::cout << sim::textReport(native::runScenarioText(text, options)) << "\n";
     }
     return 0;
 }
