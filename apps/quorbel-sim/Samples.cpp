@@ -45,16 +45,21 @@ std::optional<fs::path> samplesFolder() {
     return std::nullopt;
 }
 
-std::vector<fs::path> demoScenarios(const fs::path& samples) {
-    std::vector<fs::path> files;
+std::vector<DemoRun> demoScenarios(const fs::path& samples) {
+    const std::string explain = "explain ";
+    std::vector<DemoRun> runs;
     std::ifstream list(samples / kDemoList);
     std::string line;
     while (std::getline(list, line)) {
         const std::string name = trimmed(line);
         if (name.empty() || name[0] == '#') continue;
-        files.push_back(samples / name);
+        if (name.rfind(explain, 0) == 0) {
+            runs.push_back({samples / trimmed(name.substr(explain.size())), true});
+        } else {
+            runs.push_back({samples / name, false});
+        }
     }
-    return files;
+    return runs;
 }
 
 }  // namespace quorbel_sim

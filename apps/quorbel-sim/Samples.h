@@ -9,7 +9,13 @@ namespace quorbel_sim {
 
 std::optional<std::filesystem::path> samplesFolder();
 
-// The scenario files named in samples/demo.list, in order (blank lines and "#" lines skipped).
-std::vector<std::filesystem::path> demoScenarios(const std::filesystem::path& samples);
+struct DemoRun {
+    std::filesystem::path file;
+    bool explained = false;  // played with each call's decisions and why
+};
+
+// The runs samples/demo.list names, in order: one scenario file per line, "explain FILE" for a
+// run with its explanations (blank lines and "#" lines skipped).
+std::vector<DemoRun> demoScenarios(const std::filesystem::path& samples);
 
 }  // namespace quorbel_sim

@@ -1,6 +1,7 @@
 // quorbel-sim: plays scenario files against the plug-in in a simulated host.
 //   quorbel-sim run FILE          the transcript as JSON
 //   quorbel-sim run --text FILE   the same for a person
+//   quorbel-sim run --explain [--text] FILE   with each call's decisions and why
 //   quorbel-sim demo              the bundled sample world, as text
 //   quorbel-sim lint FILE         the rule-table check of the scenario's catalogues
 //   quorbel-sim --version         the project's version
@@ -23,7 +24,7 @@ namespace {
 constexpr int kBadInput = 2;
 
 const char* const kUsage =
-    "usage: quorbel-sim run [--text] FILE\n"
+    "usage: quorbel-sim run [--explain] [--text] FILE\n"
     "       quorbel-sim demo\n"
     "       quorbel-sim lint FILE\n"
     "       quorbel-sim --version\n";
@@ -33,13 +34,24 @@ std::string jsonText(const sim::Json& transcript) {
 }
 
 int run(const std::vector<std::string>& args) {
-    const bool text = args.size() == 2 && args[0] == "--text";
-    if (args.size() != 1 && !text) {
+    bool text = false;
+    native::RunOptions options;
+    for (size_t i = 0; i + 1 < args.size(); ++i) {
+        if (args[i] == "--text") {
+            text = true;
+        } else if (args[i] == "--explain") {
+            options.explain = true;
+        } else {
+            std::cerr << kUsage;
+            return kBadInput;
+        }
+    }
+    if (args.empty()) {
         std::cerr << kUsage;
         return kBadInput;
     }
     const std::string& file = args.back();
-    const sim::Json transcript = native::runScenarioText(sim::readWholeFile(file));
+    const sim::Json transcript = native::runScenarioText(sim::readWholeFile(file), options);
     std::cout << (text ? sim::textReport(transcript) : jsonText(transcript));
     return 0;
 }
@@ -50,16 +62,19 @@ int demo() {
         std::cerr << "quorbel-sim: no samples/demo.list found beside the program or its sources\n";
         return kBadInput;
     }
-    const auto files = quorbel_sim::demoScenarios(*samples);
-    if (files.empty()) {
+    const auto runs = quorbel_sim::demoScenarios(*samples);
+    if (runs.empty()) {
         std::cerr << "quorbel-sim: " << (*samples / "demo.list").string() << " names no scenario\n";
         return kBadInput;
     }
-    for (const auto& file : files) {
-        const std::string title = "== " + file.filename().string() + " ";
+    for (const auto& demoRun : runs) {
+        const std::string title =
+            "== " + demoRun.file.filename().string() + (demoRun.explained ? ", explained " : " ");
         std::cout << title << std::string(title.size() < 72 ? 72 - title.size() : 0, '=') << "\n\n";
-        std::cout << sim::textReport(native::runScenarioText(sim::readWholeFile(file.string())))
-                  << "\n";
+        native::RunOptions options;
+        options.explain = demoRun.explained;
+        const std::string text = sim::readWholeFile(demoRun.file.string());
+        std::cout << sim::textReport(native::runScenarioText(text, options)) << "\n";
     }
     return 0;
 }

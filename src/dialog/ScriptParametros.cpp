@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <optional>
 
+#include "dialog/Explicaciones.h"
+#include "rules/Explicacion.h"
 #include "vb/Conversions.h"
 #include "vb/Errors.h"
 #include "vb/Strings.h"
@@ -74,18 +76,21 @@ bool limitesScript(const String& script, bool checkL, bool checkH, bool checkP,
                    const String& valueL, const String& valueH, const String& valueP,
                    const std::function<void(const String&)>& avisaError) {
     bool ok = true;
-    auto par = [&](const String& nMin, const String& nMax, const String& value) {
+    auto par = [&](const String& nMin, const String& nMax, const String& value,
+                   const char16_t* medida) {
         double lo = valorScript(script, nMin, kMinimoDefecto);
         double hi = valorScript(script, nMax, kMaximoDefecto);
         if (hi == kMaximoDefecto && lo == kMinimoDefecto) return;
         double v = vb::CDbl(vb::Variant(value));
         ok = v >= lo && v <= hi;
+        if (!ok) rules::explica([&] { return explicaLimites(nMin, lo, nMax, hi, medida, value); });
     };
     try {
-        if (checkL) par(u"LMIN", u"LMAX", valueL);
-        if (checkH && ok) par(u"HMIN", u"HMAX", valueH);
-        if (checkP && ok) par(u"PMIN", u"PMAX", valueP);
+        if (checkL) par(u"LMIN", u"LMAX", valueL, u"width");
+        if (checkH && ok) par(u"HMIN", u"HMAX", valueH, u"height");
+        if (checkP && ok) par(u"PMIN", u"PMAX", valueP, u"depth");
     } catch (const vb::RuntimeError& e) {
+        rules::explica([&] { return explicaScriptIlegible(e.description()); });
         avisaError(e.description());
     }
     return ok;

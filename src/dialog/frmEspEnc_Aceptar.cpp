@@ -3,9 +3,11 @@
 #include <cmath>
 #include <optional>
 
+#include "dialog/Explicaciones.h"
 #include "dialog/ScriptParametros.h"
 #include "dialog/TextoCajeos.h"
 #include "dialog/frmEspEnc.h"
+#include "rules/Explicacion.h"
 #include "vb/Conversions.h"
 #include "vb/Strings.h"
 
@@ -90,17 +92,33 @@ void frmEspEnc::btnAcptComp_Click() {
     auto aviso = [&](const String& prompt, const String& titulo) {
         mensaje(prompt, titulo, platform::MsgIcon::Information);
     };
+    auto porque = [](const char16_t* texto) { rules::explica([&] { return String(texto); }); };
     if (p.cambiado && p.enLimites && p.documento && p.diagonal) {
+        porque(u"Every check passed: the edits are written and the dialog closes.");
         escriturasCompletas(p);
     } else if (!p.erroresMedidas.empty()) {
+        porque(
+            u"Measures outside their limits: message TR_9001 lists them; the dialog stays open.");
         aviso(texto(u"TR_9001") + kCrLf + p.erroresMedidas, texto(u"TR_9001"));
     } else if (!p.medidasSinCambio.empty() && vb::equalText(estadoCambios, estadoInicial)) {
+        porque(
+            u"A special measure was left unchanged and nothing else was edited: message "
+            u"TR_9003; the dialog stays open.");
         aviso(texto(u"TR_9003") + p.medidasSinCambio, texto(u"TR_9004"));
     } else if (!p.documento) {
+        porque(
+            u"The recess values failed their check: the message is titled TR_9006, the "
+            u"cut-out document is not written; the dialog stays open.");
         aviso(p.errorCajeos, texto(u"TR_9006"));
     } else if (p.diagonal) {
+        porque(
+            u"A special measure was left unchanged but the dialog was otherwise edited: the "
+            u"other edits are written and the dialog closes.");
         escriturasReducidas();
     } else {
+        porque(
+            u"The diagonal values failed their check: message titled TR_9007; the dialog "
+            u"stays open.");
         aviso(p.errorDiagonal, texto(u"TR_9007"));
     }
 }
@@ -111,6 +129,14 @@ void frmEspEnc::compruebaMedidas(Pasada& p, const double* min, const double* max
         if (!TextMedEsp[k].Enabled) continue;
         const String& t = TextMedEsp[k].Text;
         if (vb::equalText(t, medidasActuales[k])) {
+            rules::explica([&] {
+                return u"The " +
+                       String(k == 0   ? u"width"
+                              : k == 1 ? u"height"
+                                       : u"depth") +
+                       u" is special but still " + rules::entreComillas(t) +
+                       u", its value when the dialog opened.";
+            });
             p.cambiado = p.enLimites = false;
             p.medidasSinCambio += u" -- " + CadenaMedidas(k);
         }
@@ -120,13 +146,16 @@ void frmEspEnc::compruebaMedidas(Pasada& p, const double* min, const double* max
             return textoClave(p.idiomas, claves[k]) + vb::numberText(min[k]) + u" < " + t + u" < " +
                    vb::numberText(max[k]) + u"." + kCrLf;
         };
+        bool anotada = false;
         if (k == 0 || p.enLimites) {
             p.enLimites = dentro;
-            if (!dentro) p.erroresMedidas = linea();
+            if (!dentro) p.erroresMedidas = linea(), anotada = true;
         } else if (!v || (*v < min[k] && *v <= max[k])) {
             // After an earlier failure only a value below its minimum adds its line.
             p.erroresMedidas += linea();
+            anotada = true;
         }
+        rules::explica([&] { return explicaMedida(k, t, min[k], max[k], dentro, anotada); });
     }
 }
 
@@ -138,6 +167,11 @@ void frmEspEnc::compruebaCajeos(Pasada& p) {
         textoCajeosNuevo.clear();
         p.documento = false;
         p.errorCajeos = textoClave(p.idiomas, clave);
+        rules::explica([&] {
+            return u"A recess value fails its check: " +
+                   (clave == u"TR_9010" ? String(u"it is above its maximum (TR_9010).")
+                                        : String(u"it is empty or not a whole number (TR_9011)."));
+        });
     };
     // 0 until a VALOR is read; a VALOR that is not an integer leaves no value to compare.
     int64_t valor = 0;
@@ -173,6 +207,12 @@ void frmEspEnc::compruebaDiagonal(Pasada& p) {
         if (!p.diagonal) return;  // the first failure is the one reported
         p.diagonal = false;
         p.errorDiagonal = m;
+        rules::explica([&] {
+            return u"Diagonal: " + rules::entreComillas(m) +
+                   u" (L1 must lie within 0 and the "
+                   u"width, L2 within 0 and the depth, L3 within 0 and L1 + L2, the angle within "
+                   u"0 and 180).";
+        });
     };
     if (TextValores[0].Enabled) {
         static const char16_t* const mensajes[3] = {u"Valor de L1 no permitido.",

@@ -3,8 +3,10 @@
 #include <array>
 #include <vector>
 
+#include "dialog/Explicaciones.h"
 #include "dialog/Teclado.h"
 #include "dialog/frmEspEnc.h"
+#include "rules/Explicacion.h"
 #include "rules/Refresco.h"
 #include "vb/Conversions.h"
 #include "vb/Strings.h"
@@ -26,9 +28,11 @@ void frmEspEnc::ofreceTipos() {
     String modelo = vb::CStr(scene.ObjectGetInfo(mv_.miSessionId, -2, 64));
     String referencia = vb::CStr(scene.ObjectGetInfo(mv_.miSessionId, -2, 8));
     size_t r = 0;
+    bool hallado = false;
     for (size_t i = 0; i < static_cast<size_t>(std::max<int>(mv_.numModelos, 0)); ++i) {
         if (i < mv_.modelos.size() && vb::equalText(mv_.modelos[i], modelo)) {
             r = i;
+            hallado = true;
             break;
         }
     }
@@ -38,6 +42,10 @@ void frmEspEnc::ofreceTipos() {
                        static_cast<size_t>(k) < mv_.permisosModelo[r].size() &&
                        mv_.permisosModelo[r][k];
         bool ofrecido = (mv_.idsHijosEsp[k] != -2 && permiso) || excepcion;
+        rules::explica([&] {
+            return explicaTipo({k, ofrecido, excepcion, permiso, mv_.idsHijosEsp[k], modelo,
+                                referencia, static_cast<int>(r), hallado});
+        });
         PictureEsp[k].Enabled = ofrecido;
         PictureEsp[k].Visible = ofrecido;
         EtiqCuadEsp[k].Enabled = ofrecido;
@@ -106,7 +114,13 @@ void frmEspEnc::ocultaTiposFijos() {
     for (int k = 0; k < mv_.numTiposEsp && k < 7; ++k) {
         if (mv_.idsHijosEsp[k] == -2) continue;
         bool todas = true;
-        for (int m : kCajasDeTipo[k]) todas = todas && variable[m];
+        for (int m : kCajasDeTipo[k]) {
+            if (todas && !variable[m]) {
+                static const int32_t kInformacion[3] = {15, 17, 16};
+                rules::explica([&] { return explicaTipoOculto(k, m, kInformacion[m]); });
+            }
+            todas = todas && variable[m];
+        }
         if (!todas) {
             PictureEsp[k].Visible = false;
             EtiqCuadEsp[k].Enabled = false;

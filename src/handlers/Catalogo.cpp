@@ -3,6 +3,7 @@
 #include <array>
 
 #include "host/Factory.h"
+#include "rules/Explicacion.h"
 #include "rules/ModVariables.h"
 #include "vb/Conversions.h"
 #include "vb/Strings.h"
@@ -27,6 +28,16 @@ bool contiene(const String& line, const String& what) {
 String valorDeLinea(const String& line) {
     const auto pieces = vb::Split(line, u"=");
     return pieces.size() > 1 ? pieces[1] : String();
+}
+
+String explicaCarga(const String& name, const String& directa, const CargaCatalogo& carga) {
+    String texto = u"Catalogue " + rules::entreComillas(name) + u" (information 0): ";
+    if (carga.ruta != directa) {
+        texto += u"not at " + directa + u", found in a sub-folder as " + carga.ruta;
+    } else {
+        texto += u"looked for at " + carga.ruta;
+    }
+    return texto + (carga.cargado ? u"; the host loaded it." : u"; the host did not load it.");
 }
 
 }  // namespace
@@ -72,6 +83,7 @@ CargaCatalogo cargaCatalogoObjeto(Env& env, int32_t objectId) {
     const String name = vb::CStr(host::use(mv.miScene).ObjectGetInfo(mv.miSessionId, objectId, 0));
     CargaCatalogo carga;
     carga.ruta = mv.dirCatalogos + name + u".cat";
+    const String directa = carga.ruta;
     if (!existeArchivo(env, carga.ruta)) {
         std::vector<platform::DirEntry> entries;
         try {
@@ -87,6 +99,7 @@ CargaCatalogo cargaCatalogoObjeto(Env& env, int32_t objectId) {
         }
     }
     carga.cargado = vb::CBool(host::use(mv.miCatalog).FileLoad(mv.miSessionId, carga.ruta));
+    rules::explica([&] { return explicaCarga(name, directa, carga); });
     return carga;
 }
 

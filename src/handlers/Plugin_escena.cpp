@@ -7,6 +7,7 @@
 #include "handlers/Preparacion.h"
 #include "handlers/Textos.h"
 #include "host/Session.h"
+#include "rules/Explicacion.h"
 #include "rules/ModVariables.h"
 #include "vb/Conversions.h"
 
@@ -44,6 +45,17 @@ void procesaObjetoSesion(Plugin& plugin, Sesion sesion, int32_t objectId, String
     if (scope) scope->endSession();
 }
 
+String explicaOmitido(int32_t id, const String& number) {
+    return u"Object " + vb::numberText(id) + u" is not checked: its catalogue number " +
+           rules::entreComillas(number) + u" is not a number.";
+}
+
+String explicaCatalogo(int32_t id, int16_t catalogo, bool nuevo) {
+    return u"Object " + vb::numberText(id) + u", catalogue number " + vb::numberText(catalogo) +
+           (nuevo ? u": the rules are prepared for its catalogue."
+                  : u", as the object before: the rules prepared for it are used again.");
+}
+
 bool esSuperior(int32_t parent) {
     return parent == -1 || parent == -2;
 }
@@ -74,9 +86,13 @@ bool Plugin::OnSceneGenericFinishesAfter(int32_t lCallParamsBlock) {
         const int32_t id = vb::CLng(scene.SceneGetObjectId(mv.miSessionId, i));
         if (!esSuperior(vb::CLng(scene.ObjectGetParentId(mv.miSessionId, id)))) continue;
         const Variant number = scene.ObjectGetInfo(mv.miSessionId, id, 2);
-        if (!vb::IsNumeric(number)) continue;
+        if (!vb::IsNumeric(number)) {
+            rules::explica([&] { return explicaOmitido(id, rules::textoDe(number)); });
+            continue;
+        }
         const int16_t catalogo = vb::CInt(number);
         const bool nuevo = ultimoCatalogo != catalogo;
+        rules::explica([&] { return explicaCatalogo(id, catalogo, nuevo); });
         ultimoCatalogo = catalogo;
         int16_t funcion = 4;
         procesaObjetoSesion(*this, {lCallParamsBlock, true}, id, mensaje, funcion, nuevo);

@@ -8,8 +8,12 @@
 
 namespace native {
 
+struct RunOptions {
+    bool explain = false;  // each call's transcript lists the decisions taken and why
+};
+
 // Raises sim::ScenarioError for a scenario that does not load.
-sim::Json runScenarioText(const std::string& utf8Json);
-sim::Json runScenario(sim::Scenario scenario);
+sim::Json runScenarioText(const std::string& utf8Json, const RunOptions& options = {});
+sim::Json runScenario(sim::Scenario scenario, const RunOptions& options = {});
 
 }  // namespace native

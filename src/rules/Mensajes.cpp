@@ -4,6 +4,7 @@
 
 #include "handlers/Textos.h"
 #include "host/Factory.h"
+#include "rules/Explicacion.h"
 #include "rules/ModVariables.h"
 #include "vb/Conversions.h"
 
@@ -71,6 +72,12 @@ String construyeMensaje(platform::Platform& platform, bool valAncho, bool valAlt
     const String title = handlers::textoTraducido(idiomas, u"TR_9001");
     String message = main;
     if (tipoFuncion != 2) message += u"\r\n" + handlers::textoTraducido(idiomas, u"TR_9016");
+    explica([&] {
+        return String(u"Notice ") +
+               (rechazados == 1 ? u"TR_9015 (one measure refused)"
+                                : u"TR_9014 (several measures refused)") +
+               (tipoFuncion != 2 ? u" shown, with TR_9016 as its second line." : u" shown.");
+    });
     platform.messageBox(message, title, platform::MsgIcon::Information);
     return message;
 }
@@ -78,6 +85,10 @@ String construyeMensaje(platform::Platform& platform, bool valAncho, bool valAlt
 void programaST2(platform::Platform& platform, const String& nombreModelo) {
     const auto idiomas = handlers::leeIdiomas();
     if (!esModeloST(nombreModelo)) return;
+    explica([&] {
+        return u"Door model " + entreComillas(nombreModelo) +
+               u" belongs to the ST programme: notice TR_9021 shown.";
+    });
     const String text = handlers::textoTraducido(idiomas, u"TR_9021");
     const String caption = handlers::textoTraducido(idiomas, u"TR_9001");
     platform.messageBox(text, caption, platform::MsgIcon::Information);
@@ -88,7 +99,12 @@ void programaST(platform::Platform& platform, int32_t elId) {
     auto& scene = host::use(mv.miScene);
     const double n = vb::CDbl(scene.ObjectGetInfo(mv.miSessionId, elId, 2));
     if (n != 31 && n != 32 && n != 33) return;
-    if (!esFrenteST(vb::CInt(scene.ObjectGetInfo(mv.miSessionId, elId, 65)))) return;
+    const int16_t frente = vb::CInt(scene.ObjectGetInfo(mv.miSessionId, elId, 65));
+    if (!esFrenteST(frente)) return;
+    explica([&] {
+        return u"Catalogue number " + vb::numberText(n) + u" with front code " +
+               vb::numberText(frente) + u" belongs to the ST programme: notice TR_9021 shown.";
+    });
     const String text = handlers::textoCatalogo(u"TR_9021");
     const String caption = handlers::textoCatalogo(u"TR_9001");
     platform.messageBox(text, caption, platform::MsgIcon::Information);

@@ -2,6 +2,8 @@
 
 #include "host/Factory.h"
 #include "rules/Dimension.h"
+#include "rules/ExplicaObjeto.h"
+#include "rules/Explicacion.h"
 #include "rules/Mensajes.h"
 #include "rules/ModVariables.h"
 #include "vb/Conversions.h"
@@ -12,6 +14,7 @@ namespace rules {
 namespace {
 
 struct Catalogo3 {
+    int32_t rank = 0;
     String ancho, fondo, alto;
 };
 
@@ -21,6 +24,7 @@ Catalogo3 medidasCatalogo(const String& referencia) {
     const int32_t rank =
         vb::CLng(catalog.TableGetLineRankFromName(mv.miSessionId, 3, 0, 1, referencia, false));
     Catalogo3 c;
+    c.rank = rank;
     c.ancho = vb::CStr(catalog.TableGetLineInfo(mv.miSessionId, 3, 0, rank, 3));
     c.fondo = vb::CStr(catalog.TableGetLineInfo(mv.miSessionId, 3, 0, rank, 4));
     c.alto = vb::CStr(catalog.TableGetLineInfo(mv.miSessionId, 3, 0, rank, 5));
@@ -41,12 +45,18 @@ void anade(String& concatenar, const String& referencia) {
 bool decide(const ObjetoActual& actual, int32_t dimension, const String& valor,
             const String& catalogo, const Medidas& medidas, int32_t elId, String& concatenar,
             bool anadir) {
-    if (vb::CLng(valor) == vb::CLng(catalogo)) return true;
+    if (vb::CLng(valor) == vb::CLng(catalogo)) {
+        if (valor != catalogo)
+            explica([&] { return explicaIgualEntero(dimension, valor, catalogo); });
+        return true;
+    }
+    explica([&] { return explicaDifiere(dimension, valor, catalogo); });
     auto& mv = modVariables();
     if (procesaDimension(mv, dimension, medidas, actual.refObjeto, actual.modeloPuerta, elId)) {
         return true;
     }
     host::use(mv.miScene).ObjectSetInfo(mv.miSessionId, elId, catalogo, dimension);
+    explica([&] { return explicaRestaurada(dimension, catalogo, anadir); });
     if (anadir) anade(concatenar, infoObjeto(elId, 8));
     return false;
 }
@@ -59,7 +69,11 @@ bool procesaObjeto(platform::Platform& platform, ObjetoActual& actual, const Med
     actual.modeloPuerta = infoObjeto(elId, 64);
     programaST2(platform, actual.modeloPuerta);
     const Catalogo3 cat = medidasCatalogo(actual.refObjeto);
+    const String articulo = actual.refObjeto;
     actual.refObjeto = infoObjeto(elId, 8);
+    explica([&] {
+        return explicaObjeto(actual, articulo, cat.rank, medidas, {cat.ancho, cat.alto, cat.fondo});
+    });
 
     const Medidas m{medidas.ancho, cat.ancho, medidas.fondo, cat.fondo, medidas.alto, cat.alto};
     const bool okW =

@@ -1,5 +1,8 @@
 #include "sim/Player.h"
 
+#include <optional>
+
+#include "rules/Explicacion.h"
 #include "rules/ModVariables.h"
 #include "sim/DialogWiring.h"
 #include "vb/Conversions.h"
@@ -53,6 +56,8 @@ void Player::play(const CallSpec& call) {
     try {
         view = makeDialogView(call.ui, recorder, platform_);
         env_.dialogView = view.get();
+        std::optional<rules::ExplicacionActiva> explicacion;
+        if (recorder.explaining()) explicacion.emplace(&recorder);
         outcome = dispatch(call, block);
     } catch (const vb::RuntimeError& e) {
         error = errorJson(e.number(), e.description());

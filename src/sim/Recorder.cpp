@@ -59,6 +59,7 @@ void Recorder::beginCall(const std::string& className, const std::string& method
                 {"result", nullptr},
                 {"error", nullptr},
                 {"events", Json::array()}};
+    if (explain_) current_["explain"] = Json::array();
     hostCalls_.clear();
     inCall_ = true;
 }
@@ -129,6 +130,10 @@ void Recorder::viewRefresh() {
 
 void Recorder::beep() {
     event({{"type", "beep"}});
+}
+
+void Recorder::decision(const vb::String& texto) {
+    if (inCall_ && explain_) current_["explain"].push_back(toJsonText(texto));
 }
 
 void Recorder::dialogShown(const vb::String& title) {

@@ -9,14 +9,19 @@
 #include <vector>
 
 #include "dialog/UserAction.h"
+#include "rules/Explicacion.h"
 #include "sim/Json.h"
 
 namespace sim {
 
 enum class BoxIcon { Information, Critical, None };
 
-class Recorder : public dialog::DialogObserver {
+class Recorder : public dialog::DialogObserver, public rules::Explicacion {
   public:
+    // With explanations on, every call of the transcript gets its `explain` list.
+    void explainCalls(bool on) { explain_ = on; }
+    bool explaining() const { return explain_; }
+
     void beginCall(const std::string& className, const std::string& method);
     // result: true/false, a string or null; error: null or {number, description}; args: the
     // by-reference arguments after the call, for methods that take arguments.
@@ -42,6 +47,9 @@ class Recorder : public dialog::DialogObserver {
     void snapshot(const dialog::Snapshot& snapshot) override;
     void dialogClosed(const std::string& how) override;
 
+    // rules::Explicacion: one decision of the call in progress.
+    void decision(const vb::String& texto) override;
+
     // {"calls": [...], "objects": ..., "files": [...]}.
     Json transcript(Json objects, Json files) const;
     const Json& calls() const { return calls_; }
@@ -51,6 +59,7 @@ class Recorder : public dialog::DialogObserver {
     Json current_;
     std::map<std::string, int64_t, std::less<>> hostCalls_;  // no allocation per count
     bool inCall_ = false;
+    bool explain_ = false;
 };
 
 // The snapshot event's JSON form: only the fields a control has.

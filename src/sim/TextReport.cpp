@@ -129,6 +129,10 @@ void drawCall(std::ostream& out, const Json& call) {
     }
     for (const auto& e : call["events"]) drawEvent(out, e);
     if (call.contains("args")) out << "  arguments after the call: " << call["args"].dump() << "\n";
+    if (call.contains("explain") && !call["explain"].empty()) {
+        out << "  why:\n";
+        for (const auto& line : call["explain"]) out << "    - " << str(line) << "\n";
+    }
     if (!call["hostCalls"].empty()) {
         out << "  host calls:";
         const char* sep = " ";

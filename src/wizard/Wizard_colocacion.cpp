@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "host/Session.h"
+#include "rules/Explicacion.h"
 #include "vb/Conversions.h"
 #include "vb/Strings.h"
 #include "wizard/Fabricantes.h"
@@ -31,6 +32,14 @@ std::optional<int32_t> numeroCatalogo(const String& numero) {
     }
 }
 
+String explicaNumero(const std::optional<int32_t>& numero) {
+    if (!numero) return u"The catalogue number is empty or not a number: no manufacturer case.";
+    const String n = vb::numberText(*numero);
+    if (*numero < 31 || *numero > 33) return u"Catalogue number " + n + u": no manufacturer case.";
+    static const char16_t* const kCasos[] = {u"casoForma", u"casoXey", u"casoVegasa"};
+    return u"Catalogue number " + n + u": manufacturer case " + kCasos[*numero - 31] + u".";
+}
+
 }  // namespace
 
 bool Wizard::OnObjectPlaceAfter(int32_t lCallParamsBlock) {
@@ -40,6 +49,7 @@ bool Wizard::OnObjectPlaceAfter(int32_t lCallParamsBlock) {
     if (scope.isOpen()) {
         const auto numero =
             numeroCatalogo(vb::CStr(host::use(wScene).ObjectGetInfo(wSessionId, kObjetoEvento, 2)));
+        rules::explica([&] { return explicaNumero(numero); });
         // The cases' own results are not used: a case that ran makes the result true.
         if (numero == 31) casoForma(lCallParamsBlock);
         if (numero == 32) casoXey(lCallParamsBlock);
@@ -79,7 +89,13 @@ void Wizard::aplicaCaso(const Fabricante& f, String& ruta) {
     modeloPuerta = info(64);
     const int32_t rank =
         vb::CLng(catalog.TableGetLineRankFromName(wSessionId, 3, 0, 1, refObjeto, false));
-    if (rank < 1) return;  // no article line: no catalogue measures to hold the cabinet to
+    if (rank < 1) {  // no article line: no catalogue measures to hold the cabinet to
+        rules::explica([&] {
+            return u"Article " + rules::entreComillas(refObjeto) +
+                   u" has no line in table 3: the case changes nothing.";
+        });
+        return;
+    }
     Medidas m;
     m.catAncho = vb::CStr(catalog.TableGetLineInfo(wSessionId, 3, 0, rank, 3));
     m.catFondo = vb::CStr(catalog.TableGetLineInfo(wSessionId, 3, 0, rank, 4));
@@ -87,16 +103,42 @@ void Wizard::aplicaCaso(const Fabricante& f, String& ruta) {
     m.ancho = info(12);
     m.fondo = info(13);
     m.alto = info(14);
-    if (enLista(codigo, f.codigos)) return;
+    if (enLista(codigo, f.codigos)) {
+        rules::explica([&] {
+            return u"Article code " + rules::entreComillas(codigo) +
+                   u" is exempt from every rule of this manufacturer.";
+        });
+        return;
+    }
     if (!enLista(modeloPuerta, f.modelos)) {
+        rules::explica([&] {
+            return u"Door model " + rules::entreComillas(modeloPuerta) +
+                   u" is not on the manufacturer's list: only the depth may be special.";
+        });
         reglaSoloFondo(f, m);
     } else if (f.reglaAncho) {
         reglaAncho(f, m);
+    } else {
+        rules::explica([&] {
+            return u"Door model " + rules::entreComillas(modeloPuerta) +
+                   u" is on the manufacturer's list: no rule of this manufacturer applies.";
+        });
     }
 }
 
 void Wizard::reglaSoloFondo(const Fabricante& f, const Medidas& m) {
-    if (m.catAncho == m.ancho && m.catAlto == m.alto) return;
+    if (m.catAncho == m.ancho && m.catAlto == m.alto) {
+        rules::explica(
+            [] { return String(u"Width and height are the catalogue's: nothing to do."); });
+        return;
+    }
+    rules::explica([&] {
+        return u"Width " + rules::entreComillas(m.ancho) + u" and height " +
+               rules::entreComillas(m.alto) + u" go back to the catalogue's " +
+               rules::entreComillas(m.catAncho) + u" and " + rules::entreComillas(m.catAlto) +
+               u"; the cabinet is replaced from " + f.reemplazo + u" keeping its depth " +
+               rules::entreComillas(m.fondo) + u".";
+    });
     auto& scene = host::use(wScene);
     scene.ObjectSetInfo(wSessionId, kObjetoEvento, m.catAncho, 12);
     scene.ObjectSetInfo(wSessionId, kObjetoEvento, m.catAlto, 14);
@@ -106,7 +148,20 @@ void Wizard::reglaSoloFondo(const Fabricante& f, const Medidas& m) {
 }
 
 void Wizard::reglaAncho(const Fabricante& f, const Medidas& m) {
-    if (enLista(modeloPuerta, f.sinReglaAncho) || m.catAncho == m.ancho) return;
+    if (enLista(modeloPuerta, f.sinReglaAncho) || m.catAncho == m.ancho) {
+        rules::explica([&] {
+            return enLista(modeloPuerta, f.sinReglaAncho)
+                       ? u"Door model " + rules::entreComillas(modeloPuerta) +
+                             u" may have any width."
+                       : u"The width is the catalogue's: nothing to do.";
+        });
+        return;
+    }
+    rules::explica([&] {
+        return u"Door model " + rules::entreComillas(modeloPuerta) +
+               u" keeps the catalogue's width " + rules::entreComillas(m.catAncho) +
+               u" instead of " + rules::entreComillas(m.ancho) + u".";
+    });
     muestra(kMensajeAncho);
     host::use(wScene).ObjectSetInfo(wSessionId, kObjetoEvento, m.catAncho, 12);
 }

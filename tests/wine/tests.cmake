@@ -40,6 +40,13 @@ foreach(scenario IN LISTS scenarios)
 endforeach()
 wine_test(wine.scenario.bad_input ${WINE_TESTS}/play-scenario ${QUORBEL_NATIVE_RUNNER}
           ${CMAKE_BINARY_DIR}/hostdriver.exe ${WINE_TESTS}/bad_scenario.json)
+# The support trace (QUORBEL_TRACE): a refused placement, one saved by an exception list, the dialog.
+foreach(traced IN ITEMS 04_colocacion_rechazada 03_colocacion_permitida_excepcion
+        dialog/12_dialogo_especiales)
+  string(REPLACE "dialog/" "" name ${traced})
+  wine_test(wine.trace.${name} ${WINE_TESTS}/trace ${QUORBEL_NATIVE_RUNNER}
+            ${CMAKE_BINARY_DIR}/hostdriver.exe ${CMAKE_SOURCE_DIR}/samples/${traced}.json)
+endforeach()
 wine_test(wine.hostdriver_checks /usr/lib/wine/wine64 ${CMAKE_BINARY_DIR}/hostdriver-checks.exe)
 
 # The dialog's window without a host: layout at 96 and 120 dpi, drawings, colours, icon, preview.

@@ -8,6 +8,7 @@ namespace quorbel {
 
 class ComPlugin : public SharedEntries<_Plugin, handlers::Plugin> {
   public:
+    ComPlugin() : SharedEntries("Plugin") {}
     STDMETHODIMP construyeMensaje(VARIANT_BOOL* valAncho, VARIANT_BOOL* valAlto,
                                   VARIANT_BOOL* valFondo, short* tipoFuncion,
                                   VARIANT* result) override;

@@ -8,6 +8,7 @@ namespace quorbel {
 
 class ComWizard : public SharedEntries<_Wizard, wizard::Wizard> {
   public:
+    ComWizard() : SharedEntries("Wizard") {}
     STDMETHODIMP casoForma(long block, VARIANT_BOOL* result) override;
     STDMETHODIMP casoXey(long block, VARIANT_BOOL* result) override;
     STDMETHODIMP casoVegasa(long block, VARIANT_BOOL* result) override;

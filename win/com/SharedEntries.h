@@ -51,29 +51,38 @@ class SharedEntries : public DispatchObject<Interface>, protected Shell {
     using WithCatalog = void (Core::*)(int32_t&, host::CatalogRef&);
     using WithHost = void (Core::*)(int32_t&, host::AppliRef&, host::SceneRef&, host::CatalogRef&);
 
+    explicit SharedEntries(const char* className) : Shell(className) {}
+
     // An event method: the call-parameter block in, the handler's boolean out.
-    HRESULT event(Event handler, long block, VARIANT_BOOL* result) {
+    HRESULT event(Event handler, long block, VARIANT_BOOL* result,
+                  const std::source_location& where = std::source_location::current()) {
         if (!result) return E_POINTER;
-        return entry([&] { *result = asBool((core_.*handler)(block)); });
+        return entry([&] { *result = asBool((core_.*handler)(block)); }, where);
     }
     // A member taking the session and the catalogue object by reference.
-    HRESULT withCatalog(WithCatalog member, long* miSessionId, IDispatch** miCatalog) {
+    HRESULT withCatalog(WithCatalog member, long* miSessionId, IDispatch** miCatalog,
+                        const std::source_location& where = std::source_location::current()) {
         if (anyNull({miSessionId, miCatalog})) return E_POINTER;
-        return entry([&] {
-            RefCatalog c(miCatalog);
-            (core_.*member)(asLong(miSessionId), c.value);
-        });
+        return entry(
+            [&] {
+                RefCatalog c(miCatalog);
+                (core_.*member)(asLong(miSessionId), c.value);
+            },
+            where);
     }
     // A member taking the session and the three host objects by reference.
     HRESULT withHost(WithHost member, long* miSessionId, IDispatch** miAppli, IDispatch** miScene,
-                     IDispatch** miCatalog) {
+                     IDispatch** miCatalog,
+                     const std::source_location& where = std::source_location::current()) {
         if (anyNull({miSessionId, miAppli, miScene, miCatalog})) return E_POINTER;
-        return entry([&] {
-            RefAppli a(miAppli);
-            RefScene s(miScene);
-            RefCatalog c(miCatalog);
-            (core_.*member)(asLong(miSessionId), a.value, s.value, c.value);
-        });
+        return entry(
+            [&] {
+                RefAppli a(miAppli);
+                RefScene s(miScene);
+                RefCatalog c(miCatalog);
+                (core_.*member)(asLong(miSessionId), a.value, s.value, c.value);
+            },
+            where);
     }
 
     Core core_{env_};

@@ -1,8 +1,10 @@
 #pragma once
 // What each COM instance owns: the Win32 platform, the host factory, the dialog's window view
-// and the Env over them.
+// and the Env over them; and how each entry point runs.
 #include <functional>
+#include <source_location>
 
+#include "com/CallTrace.h"
 #include "com/ErrorBoundary.h"
 #include "dialog/Win32DialogView.h"
 #include "env/Env.h"
@@ -14,13 +16,21 @@ namespace quorbel {
 
 class Shell {
   protected:
-    // Runs one entry point inside the error boundary, with the user's decimal separator.
-    HRESULT entry(const std::function<void()>& body) {
-        return guarded([&] {
+    explicit Shell(const char* className) : className_(className) {}
+
+    // Runs one entry point inside the error boundary, with the user's decimal separator; its
+    // decisions go to the support trace when one is set (`where` names the entry point).
+    HRESULT entry(const std::function<void()>& body,
+                  const std::source_location& where = std::source_location::current()) {
+        CallTrace trace(className_, where);
+        const HRESULT result = guarded([&] {
             vb::setDecimalSeparator(platform_.decimalSeparator());
             body();
         });
+        trace.finish(result);
+        return result;
     }
+    const char* className_;
     Win32Platform platform_;
     DispatchFactory factory_;
     Win32DialogView dialogView_{platform_};
