@@ -1,7 +1,8 @@
 // quorbel-sim: plays scenario files against the plug-in in a simulated host.
-//   quorbel-sim run FILE          the transcript as JSON
-//   quorbel-sim run --text FILE   the same for a person
-//   quorbel-sim demo              the bundled sample world, as text
+//   quorbel-sim run FILE             the transcript as JSON
+//   quorbel-sim run --text FILE      the same for a person
+//   quorbel-sim run --literal FILE   the host asked at every step (reads not kept for the call)
+//   quorbel-sim demo                 the bundled sample world, as text
 // Exit codes: 0 played, 2 bad input or usage, 1 an unexpected failure of the runner itself.
 #include <exception>
 #include <iostream>
@@ -18,21 +19,34 @@ namespace {
 constexpr int kBadInput = 2;
 
 const char* const kUsage =
-    "usage: quorbel-sim run [--text] FILE\n"
+    "usage: quorbel-sim run [--text] [--literal] FILE\n"
     "       quorbel-sim demo\n";
 
 std::string jsonText(const sim::Json& transcript) {
     return transcript.dump(2, ' ', false, sim::Json::error_handler_t::replace) + "\n";
 }
 
+int usage() {
+    std::cerr << kUsage;
+    return kBadInput;
+}
+
 int run(const std::vector<std::string>& args) {
-    const bool text = args.size() == 2 && args[0] == "--text";
-    if (args.size() != 1 && !text) {
-        std::cerr << kUsage;
-        return kBadInput;
+    if (args.empty()) return usage();
+    bool text = false;
+    bool literal = false;
+    for (size_t i = 0; i + 1 < args.size(); ++i) {
+        if (args[i] == "--text" && !text) {
+            text = true;
+        } else if (args[i] == "--literal" && !literal) {
+            literal = true;
+        } else {
+            return usage();
+        }
     }
     const std::string& file = args.back();
-    const sim::Json transcript = native::runScenarioText(sim::readWholeFile(file));
+    const auto reads = literal ? host::ReadMode::Literal : host::ReadMode::Cached;
+    const sim::Json transcript = native::runScenarioText(sim::readWholeFile(file), reads);
     std::cout << (text ? sim::textReport(transcript) : jsonText(transcript));
     return 0;
 }
@@ -60,8 +74,7 @@ int demo() {
 int dispatch(const std::vector<std::string>& args) {
     if (!args.empty() && args[0] == "run") return run({args.begin() + 1, args.end()});
     if (args.size() == 1 && args[0] == "demo") return demo();
-    std::cerr << kUsage;
-    return kBadInput;
+    return usage();
 }
 
 }  // namespace
