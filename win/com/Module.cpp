@@ -1,5 +1,7 @@
 #include "com/Module.h"
 
+#include "platform/HostReadMode.h"
+
 namespace quorbel {
 HMODULE gModule = nullptr;
 LONG gObjects = 0;
@@ -39,6 +41,7 @@ extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID) {
     if (reason == DLL_PROCESS_ATTACH) {
         quorbel::gModule = instance;
         DisableThreadLibraryCalls(instance);
+        quorbel::hostReadMode();  // the reading mode is the environment's at load time
     }
     return TRUE;
 }

@@ -1,12 +1,14 @@
 #pragma once
-// What each COM instance owns: the Win32 platform, the host factory, the dialog's window view
-// and the Env over them.
+// What each COM instance owns: the Win32 platform, the host factory (its objects' reads kept for
+// the call unless QUORBEL_HOST_READS=literal), the dialog's window view and the Env over them.
 #include <functional>
 
 #include "com/ErrorBoundary.h"
 #include "dialog/Win32DialogView.h"
 #include "env/Env.h"
+#include "host/CachingFactory.h"
 #include "host/DispatchHost.h"
+#include "platform/HostReadMode.h"
 #include "platform/Win32Platform.h"
 #include "vb/Conversions.h"
 
@@ -22,7 +24,8 @@ class Shell {
         });
     }
     Win32Platform platform_;
-    DispatchFactory factory_;
+    DispatchFactory dispatchFactory_;
+    host::CachingFactory factory_{dispatchFactory_, hostReadMode()};
     Win32DialogView dialogView_{platform_};
     env::Env env_{platform_, factory_, &dialogView_};
 };
