@@ -1,6 +1,8 @@
 // hostdriver: plays a scenario file through the real Quorbel.dll, as `quorbel-sim run FILE`
 // plays it through the native shell, and prints the same transcript.
-//   hostdriver FILE
+//   hostdriver [--time] FILE
+// --time also writes, on standard error, the wall-clock time of each call through the DLL
+// ("<method> <milliseconds> ms"), for measuring the real boundary by hand.
 // The plug-in is the Quorbel.dll beside this program; the scenario's files are laid out on
 // drive C: of the machine it runs on (a throw-away Wine prefix).
 // Exit codes: 0 played, 2 bad input or usage, 1 an unexpected failure of the driver itself.
@@ -8,6 +10,7 @@
 #include <io.h>
 #include <objbase.h>
 
+#include <chrono>
 #include <cstdio>
 #include <exception>
 #include <iostream>
@@ -38,7 +41,16 @@ class Apartment {
     ~Apartment() { CoUninitialize(); }
 };
 
-sim::Json play(sim::Scenario& scenario) {
+// Plays one call; with `timed`, reports how long it took.
+void playCall(hostdriver::ComPlayer& player, const sim::CallSpec& call, bool timed) {
+    const auto start = std::chrono::steady_clock::now();
+    player.play(call);
+    if (!timed) return;
+    const std::chrono::duration<double, std::milli> took = std::chrono::steady_clock::now() - start;
+    std::cerr << call.method << " " << took.count() << " ms\n";
+}
+
+sim::Json play(sim::Scenario& scenario, bool timed) {
     sim::Simulation simulation(std::move(scenario.world));
     simulation.state().resourceWriter = hostdriver::writeResourceFile;
     const auto& application = simulation.world().application;
@@ -49,15 +61,15 @@ sim::Json play(sim::Scenario& scenario) {
     hostdriver::MessageBoxHook boxes(simulation.recorder());
     {
         hostdriver::ComPlayer player(simulation);
-        for (const auto& call : scenario.calls) player.play(call);
+        for (const auto& call : scenario.calls) playCall(player, call, timed);
     }
     return simulation.transcript();
 }
 
-int run(const std::string& file) {
+int run(const std::string& file, bool timed) {
     auto scenario = sim::loadScenario(sim::readWholeFile(file));
     Apartment apartment;
-    const sim::Json transcript = play(*scenario);
+    const sim::Json transcript = play(*scenario, timed);
     std::cout << transcript.dump(2, ' ', false, sim::Json::error_handler_t::replace) << "\n";
     std::cout.flush();
     return 0;
@@ -67,12 +79,13 @@ int run(const std::string& file) {
 
 int main(int argc, char** argv) {
     _setmode(_fileno(stdout), _O_BINARY);  // the transcript's line ends as the native runner's
-    if (argc != 2) {
-        std::cerr << "usage: hostdriver FILE\n";
+    const bool timed = argc == 3 && std::string(argv[1]) == "--time";
+    if (argc != 2 && !timed) {
+        std::cerr << "usage: hostdriver [--time] FILE\n";
         return kBadInput;
     }
     try {
-        return run(argv[1]);
+        return run(argv[argc - 1], timed);
     } catch (const sim::ScenarioError& e) {
         std::cerr << "hostdriver: " << e.what() << "\n";
         return kBadInput;

@@ -1,10 +1,11 @@
 // quorbel-sim: plays scenario files against the plug-in in a simulated host.
-//   quorbel-sim run FILE          the transcript as JSON
-//   quorbel-sim run --text FILE   the same for a person
-//   quorbel-sim run --explain [--text] FILE   with each call's decisions and why
-//   quorbel-sim demo              the bundled sample world, as text
-//   quorbel-sim lint FILE         the rule-table check of the scenario's catalogues
-//   quorbel-sim --version         the project's version
+//   quorbel-sim run FILE             the transcript as JSON
+//   quorbel-sim run --text FILE      the same for a person
+//   quorbel-sim run --explain FILE   with each call's decisions and why
+//   quorbel-sim run --literal FILE   the host asked at every step (reads not kept for the call)
+//   quorbel-sim demo                 the bundled sample world, as text
+//   quorbel-sim lint FILE            the rule-table check of the scenario's catalogues
+//   quorbel-sim --version            the project's version
 // Exit codes: 0 played, 2 bad input or usage, 1 an unexpected failure of the runner itself;
 // lint: 0 no finding, 1 findings, 2 bad input or usage.
 #include <exception>
@@ -24,7 +25,7 @@ namespace {
 constexpr int kBadInput = 2;
 
 const char* const kUsage =
-    "usage: quorbel-sim run [--explain] [--text] FILE\n"
+    "usage: quorbel-sim run [--text] [--explain] [--literal] FILE\n"
     "       quorbel-sim demo\n"
     "       quorbel-sim lint FILE\n"
     "       quorbel-sim --version\n";
@@ -33,23 +34,28 @@ std::string jsonText(const sim::Json& transcript) {
     return transcript.dump(2, ' ', false, sim::Json::error_handler_t::replace) + "\n";
 }
 
+int usage() {
+    std::cerr << kUsage;
+    return kBadInput;
+}
+
 int run(const std::vector<std::string>& args) {
+    if (args.empty()) return usage();
     bool text = false;
+    bool literal = false;
     native::RunOptions options;
     for (size_t i = 0; i + 1 < args.size(); ++i) {
-        if (args[i] == "--text") {
+        if (args[i] == "--text" && !text) {
             text = true;
-        } else if (args[i] == "--explain") {
+        } else if (args[i] == "--explain" && !options.explain) {
             options.explain = true;
+        } else if (args[i] == "--literal" && !literal) {
+            literal = true;
         } else {
-            std::cerr << kUsage;
-            return kBadInput;
+            return usage();
         }
     }
-    if (args.empty()) {
-        std::cerr << kUsage;
-        return kBadInput;
-    }
+    if (literal) options.reads = host::ReadMode::Literal;
     const std::string& file = args.back();
     const sim::Json transcript = native::runScenarioText(sim::readWholeFile(file), options);
     std::cout << (text ? sim::textReport(transcript) : jsonText(transcript));
@@ -87,8 +93,7 @@ int dispatch(const std::vector<std::string>& args) {
         std::cout << "quorbel-sim " QUORBEL_VERSION_TEXT "\n";
         return 0;
     }
-    std::cerr << kUsage;
-    return kBadInput;
+    return usage();
 }
 
 }  // namespace

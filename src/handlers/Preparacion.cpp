@@ -1,5 +1,9 @@
 #include "handlers/Preparacion.h"
 
+#include <any>
+
+#include "handlers/TablasPreparadas.h"
+#include "host/CachedHost.h"
 #include "host/Factory.h"
 #include "rules/Especiales.h"
 #include "rules/Explicacion.h"
@@ -22,11 +26,22 @@ vb::String explicaModelos(const rules::ModVariables& mv) {
     return texto + u".";
 }
 
+// When the host objects keep their reads, a preparation completed earlier in the call on the
+// same catalogue file is applied again instead of being read again (TablasPreparadas.h says
+// why); it is kept beside that file's reads, so it lasts exactly as long as they do.
 void preparaTablas(rules::ModVariables& mv) {
     rules::InicEsp();
-    rules::GenModEsp(mv.miSessionId, host::use(mv.miCatalog));
-    rules::GenExcepciones(mv.miSessionId, host::use(mv.miCatalog));
-    rules::InicEspMod(mv.miSessionId, host::use(mv.miCatalog), true);
+    auto& catalog = host::use(mv.miCatalog);
+    std::any* memo = host::fileMemo(catalog);
+    if (const auto* hechas = memo ? std::any_cast<TablasPreparadas>(memo) : nullptr) {
+        aplicaTablas(*hechas, mv);
+    } else {
+        rules::GenModEsp(mv.miSessionId, catalog);
+        auto excepciones = rules::GenExcepciones(mv.miSessionId, catalog);
+        rules::InicEspMod(mv.miSessionId, catalog, true);
+        // Only a completed preparation is kept; an error above leaves nothing.
+        if (memo) *memo = recogeTablas(mv, std::move(excepciones));
+    }
     rules::explica([&] { return explicaModelos(mv); });
 }
 

@@ -9,7 +9,7 @@ sim::Json runScenario(sim::Scenario scenario, const RunOptions& options) {
     sim::Simulation simulation(std::move(scenario.world));
     simulation.recorder().explainCalls(options.explain);
     SimPlatform platform(simulation);
-    sim::Player player(simulation, platform);
+    sim::Player player(simulation, platform, options.reads);
     for (const auto& call : scenario.calls) player.play(call);
     return simulation.transcript();
 }

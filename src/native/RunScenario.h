@@ -3,12 +3,15 @@
 // Plugin and one Wizard. The runner, the golden tests and the demo all go through here.
 #include <string>
 
+#include "host/ReadMode.h"
 #include "sim/Json.h"
 #include "sim/Scenario.h"
 
 namespace native {
 
 struct RunOptions {
+    // How the plug-in's host objects answer reads (the literal mode asks the host at every step).
+    host::ReadMode reads = host::ReadMode::Cached;
     bool explain = false;  // each call's transcript lists the decisions taken and why
 };
 

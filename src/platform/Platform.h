@@ -63,6 +63,10 @@ class Platform {
     virtual char16_t decimalSeparator() = 0;
 
     virtual std::unique_ptr<XmlDocument> createXmlDocument() = 0;
+
+    // VB's Environ: the value of one of the process's environment variables, empty when it is
+    // not set. A shell without a process environment of its own leaves it empty.
+    virtual String environmentVariable(const String& /*name*/) { return String(); }
 };
 
 }  // namespace platform

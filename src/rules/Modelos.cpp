@@ -28,17 +28,27 @@ bool modeloValido(const String& refer, const String& /*code*/, const String& scr
     return vb::Left(refer, 1) != u"@" && !script.empty();
 }
 
-void GenExcepciones(int32_t& sessionId, host::Catalog& catalog) {
+ExcepcionesLeidas GenExcepciones(int32_t& sessionId, host::Catalog& catalog) {
     static const std::array<const char16_t*, kNumTipos> kCodigos = {
         u"EX_EA", u"EX_EAl", u"EX_EF", u"EX_EAA", u"EX_EAF", u"EX_EAlF", u"EX_EAAF"};
     auto& mv = modVariables();
+    ExcepcionesLeidas leidas;
     for (int k = 0; k < kNumTipos; ++k) {
         const int32_t rank =
             vb::CLng(catalog.TableGetLineRankFromCode(sessionId, 2, 0, 1, kCodigos[k], false));
         const String text = vb::CStr(catalog.TableGetLineInfo(sessionId, 2, 0, rank, 2));
         // An empty text keeps the list as it was, possibly the previous catalogue's.
         if (text.empty()) continue;
-        mv.excepciones[k] = vb::Split(text.size() > 3 ? text.substr(3) : String(), u" ");
+        leidas[k] = vb::Split(text.size() > 3 ? text.substr(3) : String(), u" ");
+        mv.excepciones[k] = leidas[k];
+    }
+    return leidas;
+}
+
+void aplicaExcepciones(const ExcepcionesLeidas& leidas) {
+    auto& mv = modVariables();
+    for (int k = 0; k < kNumTipos; ++k) {
+        if (leidas[k]) mv.excepciones[k] = leidas[k];
     }
 }
 

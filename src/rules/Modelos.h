@@ -1,6 +1,9 @@
 #pragma once
 // Door models of the loaded catalogue and the exception lists.
+#include <array>
 #include <cstdint>
+#include <optional>
+#include <vector>
 
 #include "host/Host.h"
 #include "rules/ModVariables.h"
@@ -9,6 +12,13 @@ namespace rules {
 
 void GenModEsp(int32_t& sessionId, host::Catalog& catalog);  // modelos, numModelos
 bool modeloValido(const String& refer, const String& code, const String& script);
-void GenExcepciones(int32_t& sessionId, host::Catalog& catalog);  // excepEA .. excepEAAF
+// What GenExcepciones did to each kind's list: the list it put in, or nothing where an empty
+// text kept the list as it was.
+using ExcepcionesLeidas = std::array<std::optional<std::vector<String>>, kNumTipos>;
+
+// excepEA .. excepEAAF, each kind's list set as soon as its line is read.
+ExcepcionesLeidas GenExcepciones(int32_t& sessionId, host::Catalog& catalog);
+// The same effect again, without reading.
+void aplicaExcepciones(const ExcepcionesLeidas& leidas);
 
 }  // namespace rules

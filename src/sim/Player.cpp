@@ -27,10 +27,11 @@ Json Simulation::transcript() const {
     return recorder_.transcript(state_.objectsJson(), state_.filesJson());
 }
 
-Player::Player(Simulation& simulation, platform::Platform& platform)
+Player::Player(Simulation& simulation, platform::Platform& platform, host::ReadMode reads)
     : sim_(simulation),
       platform_(platform),
-      env_{platform, simulation.factory(), nullptr},
+      factory_(simulation.factory(), reads),
+      env_{platform, factory_, nullptr},
       plugin_(env_),
       wizard_(env_) {
     // A scenario is a fresh host process: no shared context is left from another one.

@@ -6,6 +6,7 @@
 
 #include "env/Env.h"
 #include "handlers/Plugin.h"
+#include "host/CachingFactory.h"
 #include "sim/Dispatch.h"
 #include "sim/HostState.h"
 #include "sim/Recorder.h"
@@ -38,8 +39,10 @@ class Simulation {
 
 class Player {
   public:
-    // The platform must serve the same simulation.
-    Player(Simulation& simulation, platform::Platform& platform);
+    // The platform must serve the same simulation. The plug-in creates its host objects in
+    // `reads` mode; objects the scenario passes as arguments are the host's own.
+    Player(Simulation& simulation, platform::Platform& platform,
+           host::ReadMode reads = host::ReadMode::Cached);
 
     void play(const CallSpec& call);
 
@@ -48,6 +51,7 @@ class Player {
 
     Simulation& sim_;
     platform::Platform& platform_;
+    host::CachingFactory factory_;
     env::Env env_;
     handlers::Plugin plugin_;
     wizard::Wizard wizard_;

@@ -1,6 +1,7 @@
 #include "com/Module.h"
 
 #include "com/CallTrace.h"
+#include "platform/HostReadMode.h"
 
 namespace quorbel {
 HMODULE gModule = nullptr;
@@ -42,6 +43,7 @@ extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID) {
         quorbel::gModule = instance;
         DisableThreadLibraryCalls(instance);
         quorbel::traceFilePath();  // the trace file is the environment's at load time
+        quorbel::hostReadMode();   // the reading mode is the environment's at load time
     }
     return TRUE;
 }

@@ -1,6 +1,7 @@
 #pragma once
-// What each COM instance owns: the Win32 platform, the host factory, the dialog's window view
-// and the Env over them; and how each entry point runs.
+// What each COM instance owns: the Win32 platform, the host factory (its objects' reads kept for
+// the call unless QUORBEL_HOST_READS=literal), the dialog's window view and the Env over them;
+// and how each entry point runs.
 #include <functional>
 #include <source_location>
 
@@ -8,7 +9,9 @@
 #include "com/ErrorBoundary.h"
 #include "dialog/Win32DialogView.h"
 #include "env/Env.h"
+#include "host/CachingFactory.h"
 #include "host/DispatchHost.h"
+#include "platform/HostReadMode.h"
 #include "platform/Win32Platform.h"
 #include "vb/Conversions.h"
 
@@ -32,7 +35,8 @@ class Shell {
     }
     const char* className_;
     Win32Platform platform_;
-    DispatchFactory factory_;
+    DispatchFactory dispatchFactory_;
+    host::CachingFactory factory_{dispatchFactory_, hostReadMode()};
     Win32DialogView dialogView_{platform_};
     env::Env env_{platform_, factory_, &dialogView_};
 };

@@ -128,4 +128,13 @@ std::unique_ptr<platform::XmlDocument> Win32Platform::createXmlDocument() {
     return createMsxmlDocument();
 }
 
+vb::String Win32Platform::environmentVariable(const vb::String& name) {
+    const std::wstring key = wide(name);
+    DWORD size = GetEnvironmentVariableW(key.c_str(), nullptr, 0);
+    if (size == 0) return {};
+    std::wstring value(size, L'\0');
+    DWORD n = GetEnvironmentVariableW(key.c_str(), value.data(), size);
+    return n < size ? narrowWide(value.data(), n) : vb::String();
+}
+
 }  // namespace quorbel

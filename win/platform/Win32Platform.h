@@ -23,6 +23,7 @@ class Win32Platform : public platform::Platform {
     vb::String moduleFolder() override;
     char16_t decimalSeparator() override;
     std::unique_ptr<platform::XmlDocument> createXmlDocument() override;
+    vb::String environmentVariable(const vb::String& name) override;
 
     // While the dialog is open its message boxes are owned by it; null: the active window.
     void setMessageBoxOwner(HWND owner) { messageBoxOwner_ = owner; }

@@ -2,22 +2,18 @@
 // the rules took, call by call.
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <nlohmann/json.hpp>
 #include <string>
 #include <vector>
 
+#include "ScenarioFiles.h"
 #include "native/RunScenario.h"
 #include "sim/ScenarioLoader.h"
 
 namespace {
 
-namespace fs = std::filesystem;
+using namespace scenario_files;
 using Plain = nlohmann::json;
-
-fs::path sourceDir() {
-    return fs::path(QUORBEL_SOURCE_DIR);
-}
 
 Plain play(const fs::path& scenario, bool explain) {
     native::RunOptions options;
@@ -29,16 +25,8 @@ Plain play(const fs::path& scenario, bool explain) {
 // Every scenario file that the goldens or the demo play.
 std::vector<fs::path> playedScenarios() {
     std::vector<fs::path> found;
-    for (const auto& entry :
-         fs::recursive_directory_iterator(sourceDir() / "tests" / "scenarios")) {
-        const std::string name = entry.path().filename().string();
-        if (name.size() <= 14 || name.substr(name.size() - 14) != ".expected.json") continue;
-        found.push_back(entry.path().parent_path() / (name.substr(0, name.size() - 14) + ".json"));
-    }
-    for (const auto& folder : {sourceDir() / "samples", sourceDir() / "samples" / "dialog"}) {
-        for (const auto& entry : fs::directory_iterator(folder))
-            if (entry.path().extension() == ".json") found.push_back(entry.path());
-    }
+    for (const auto& golden : scenariosWithGoldens()) found.push_back(scenariosRoot() / golden);
+    for (const auto& sample : samples()) found.push_back(sourceRoot() / sample);
     return found;
 }
 
@@ -63,7 +51,7 @@ class Explains : public ::testing::TestWithParam<Decision> {};
 
 TEST_P(Explains, TheDecision) {
     const Decision& d = GetParam();
-    const Plain transcript = play(sourceDir() / d.scenario, true);
+    const Plain transcript = play(sourceRoot() / d.scenario, true);
     ASSERT_LT(d.call, transcript["calls"].size());
     std::string all;
     for (const auto& line : transcript["calls"][d.call]["explain"])
