@@ -17,6 +17,7 @@ void Medida::suma(const Medida& otra) {
     segundos += otra.segundos;
     llamadas += otra.llamadas;
     picoMB = std::max(picoMB, otra.picoMB);
+    dialogos += otra.dialogos;
 }
 
 bool reiniciaPico() {
@@ -58,6 +59,7 @@ Medida juega(sim::World world, const sim::CallSpec& call, host::ReadMode modo) {
     m.segundos = segundosCpu() - start;
     const auto& played = simulation.recorder().calls().back();
     for (const auto& [member, n] : played["hostCalls"].items()) m.llamadas += n.get<int64_t>();
+    for (const auto& event : played["events"]) m.dialogos += event["type"] == "dialogShown" ? 1 : 0;
     m.picoMB = picoMB();
     return m;
 }

@@ -10,7 +10,8 @@ namespace bench {
 struct Medida {
     double segundos = 0;  // CPU
     int64_t llamadas = 0;
-    double picoMB = 0;  // the largest peak of the calls measured
+    double picoMB = 0;     // the largest peak of the calls measured
+    int64_t dialogos = 0;  // dialogs shown
     void suma(const Medida& otra);
 };
 

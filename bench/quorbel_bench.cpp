@@ -31,7 +31,7 @@ void informa(benchmark::State& state, const Medida& total, int objetos) {
 
 // Plays `call` on a fresh world each iteration; only the call itself is timed.
 template <class Mundo>
-void mide(benchmark::State& state, Mundo&& mundo, const sim::CallSpec& call, int objetos) {
+Medida mide(benchmark::State& state, Mundo&& mundo, const sim::CallSpec& call, int objetos) {
     bench::reiniciaPico();
     Medida total;
     for (auto _ : state) {
@@ -41,6 +41,7 @@ void mide(benchmark::State& state, Mundo&& mundo, const sim::CallSpec& call, int
         total.suma(bench::juega(std::move(world), call, modo(state)));
     }
     informa(state, total, objetos);
+    return total;
 }
 
 sim::CallSpec llamada(const char* method, int32_t object = 0) {
@@ -71,9 +72,12 @@ void BM_Colocacion(benchmark::State& state) {
 // Args: components, literal. The headless view with no action loads the dialog and closes it.
 void BM_AbreDialogo(benchmark::State& state) {
     const int componentes = static_cast<int>(state.range(0));
-    mide(
+    const Medida total = mide(
         state, [&] { return bench::mundoDialogo(componentes); },
         llamada("OnObjectComponentsBefore", 100), componentes);
+    // A dialog refused or an error trapped before it showed would measure nothing of interest.
+    if (total.dialogos != static_cast<int64_t>(state.iterations()))
+        state.SkipWithError("the dialog was not shown at every iteration");
 }
 
 }  // namespace
