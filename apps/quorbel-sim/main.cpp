@@ -1,10 +1,13 @@
 // quorbel-sim: plays scenario files against the plug-in in a simulated host.
 //   quorbel-sim run FILE          the transcript as JSON
 //   quorbel-sim run --text FILE   the same for a person
+//   quorbel-sim run --fault K:KIND | --refuse PROGID | --missing MEMBER ... FILE
+//                                 the same with the simulated host failing (sim/Faults.h)
 //   quorbel-sim demo              the bundled sample world, as text
 // Exit codes: 0 played, 2 bad input or usage, 1 an unexpected failure of the runner itself.
 #include <exception>
 #include <iostream>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -18,21 +21,30 @@ namespace {
 constexpr int kBadInput = 2;
 
 const char* const kUsage =
-    "usage: quorbel-sim run [--text] FILE\n"
+    "usage: quorbel-sim run [--text] [FAULT OPTION...] FILE\n"
     "       quorbel-sim demo\n";
 
 std::string jsonText(const sim::Json& transcript) {
     return transcript.dump(2, ' ', false, sim::Json::error_handler_t::replace) + "\n";
 }
 
-int run(const std::vector<std::string>& args) {
-    const bool text = args.size() == 2 && args[0] == "--text";
-    if (args.size() != 1 && !text) {
-        std::cerr << kUsage;
-        return kBadInput;
+int usage() {
+    std::cerr << kUsage << sim::kFaultOptionsUsage;
+    return kBadInput;
+}
+
+int run(std::vector<std::string> args) {
+    sim::FaultPlan faults;
+    try {
+        sim::takeFaultOptions(args, faults);
+    } catch (const std::invalid_argument& e) {
+        std::cerr << "quorbel-sim: " << e.what() << "\n";
+        return usage();
     }
+    const bool text = args.size() == 2 && args[0] == "--text";
+    if (args.size() != 1 && !text) return usage();
     const std::string& file = args.back();
-    const sim::Json transcript = native::runScenarioText(sim::readWholeFile(file));
+    const sim::Json transcript = native::runScenarioText(sim::readWholeFile(file), faults);
     std::cout << (text ? sim::textReport(transcript) : jsonText(transcript));
     return 0;
 }
@@ -60,8 +72,7 @@ int demo() {
 int dispatch(const std::vector<std::string>& args) {
     if (!args.empty() && args[0] == "run") return run({args.begin() + 1, args.end()});
     if (args.size() == 1 && args[0] == "demo") return demo();
-    std::cerr << kUsage;
-    return kBadInput;
+    return usage();
 }
 
 }  // namespace
