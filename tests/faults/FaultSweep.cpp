@@ -114,6 +114,7 @@ void sweep(const SweepScenario& scenario, bool every, Figures& figures,
             plan.counted.push_back({k, kind});
             const Played faulted = play(scenario.text, {plan, budget, nullptr, &clean.start});
             ++figures.runs;
+            ++figures.outcomes[std::string(sim::faultKindName(kind)) + " " + outcome(faulted)];
             for (const std::string& p : judge(clean, faulted, k, kind, budget))
                 figures.findings.push_back(run + ": " + p);
         }

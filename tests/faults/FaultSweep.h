@@ -7,6 +7,7 @@
 // after the run without a fault.
 #include <cstdint>
 #include <functional>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -35,7 +36,8 @@ std::vector<int64_t> callsToFail(const std::string& name, const std::vector<cons
 struct Figures {
     size_t scenarios = 0;
     size_t runs = 0;
-    int64_t hostCalls = 0;  // of the runs without a fault
+    int64_t hostCalls = 0;                   // of the runs without a fault
+    std::map<std::string, size_t> outcomes;  // "KIND OUTCOME" -> runs (Judge.h: outcome)
     std::vector<std::string> findings;
 };
 

@@ -108,6 +108,18 @@ std::string followUpProblem(const Json& clean, const Json& faulted) {
 
 }  // namespace
 
+std::string outcome(const Played& faulted) {
+    if (faulted.fired.empty()) return "completed";
+    const Json& call = faulted.calls[faulted.fired.front().callIndex];
+    if (!call["error"].is_null()) return "failed";
+    for (const Json& e : call["events"]) {
+        if (e["type"] != "messageBox" || e["caption"] != kCaption) continue;
+        const std::string text = e["text"];
+        if (startsWith(text, kUntrapped) || startsWith(text, "Error 13: ")) return "trapped";
+    }
+    return "completed";
+}
+
 std::vector<std::string> judge(const Played& clean, const Played& faulted, int64_t call,
                                sim::FaultKind kind, int64_t hostCallBudget) {
     std::vector<std::string> problems = faulted.problems;

@@ -12,4 +12,8 @@ namespace faults {
 std::vector<std::string> judge(const Played& clean, const Played& faulted, int64_t call,
                                sim::FaultKind kind, int64_t hostCallBudget);
 
+// How the faulted call ended: "failed" (an error left it), "trapped" (the trap's message) or
+// "completed".
+std::string outcome(const Played& faulted);
+
 }  // namespace faults

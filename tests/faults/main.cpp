@@ -45,6 +45,8 @@ int sweepAll(bool every, const std::string& only) {
     const std::chrono::duration<double> took = std::chrono::steady_clock::now() - start;
     for (size_t i = 0; i < figures.findings.size() && i < kFindingsShown; ++i)
         std::cout << "finding: " << figures.findings[i] << "\n";
+    for (const auto& [what, runs] : figures.outcomes)
+        std::printf("  %-20s %zu runs\n", what.c_str(), runs);
     std::printf(
         "fault sweep (%s): %zu scenarios, %lld host calls without faults, %zu faulted runs, "
         "%.1f s, %zu findings\n",
