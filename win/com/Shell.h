@@ -1,8 +1,6 @@
 #pragma once
 // What each COM instance owns: the Win32 platform, the host factory, the dialog's window view
 // and the Env over them.
-#include <functional>
-
 #include "com/ErrorBoundary.h"
 #include "dialog/Win32DialogView.h"
 #include "env/Env.h"
@@ -15,7 +13,8 @@ namespace quorbel {
 class Shell {
   protected:
     // Runs one entry point inside the error boundary, with the user's decimal separator.
-    HRESULT entry(const std::function<void()>& body) {
+    template <class Body>
+    HRESULT entry(Body&& body) noexcept {
         return guarded([&] {
             vb::setDecimalSeparator(platform_.decimalSeparator());
             body();
