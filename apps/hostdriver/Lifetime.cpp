@@ -36,6 +36,7 @@ void Lifetime::afterRelease() {
                                   GetProcAddress(plugin, "DllCanUnloadNow")))
                             : nullptr;
     canUnload_ = canUnload && canUnload() == S_OK;
+    if (measuring_) afterRelease_ = privateBytes();
     if (plugin && !canUnload_)
         problems_.push_back(
             "objects of the plug-in are still alive after the driver released its "
@@ -49,6 +50,7 @@ sim::Json Lifetime::memoryFigures() const {
     return {{"calls", calls_},
             {"privateBytesAfterFirst1000", afterFirstWindow_},
             {"privateBytesAtEnd", atEnd_},
+            {"privateBytesAfterRelease", afterRelease_},
             {"growth", growth},
             {"canUnloadNow", canUnload_}};
 }

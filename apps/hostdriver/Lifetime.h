@@ -19,7 +19,8 @@ class Lifetime {
     void afterRelease();
     const std::vector<std::string>& problems() const { return problems_; }
 
-    // Private memory after each call: the figures of the first and the last thousand calls.
+    // Private memory after each call: the figures of the first and the last thousand calls, and
+    // once the plug-in's instances are released.
     void measureMemory() { measuring_ = true; }
     sim::Json memoryFigures() const;
 
@@ -31,6 +32,7 @@ class Lifetime {
     size_t calls_ = 0;
     uint64_t afterFirstWindow_ = 0;  // private bytes after call kWindow
     uint64_t atEnd_ = 0;             // after the last call
+    uint64_t afterRelease_ = 0;      // once the plug-in's instances are released
     bool canUnload_ = false;
 };
 

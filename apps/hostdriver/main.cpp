@@ -55,6 +55,17 @@ class Apartment {
     ~Apartment() { CoUninitialize(); }
 };
 
+// Between two events the host's own message loop runs: what a call left in the thread's queue
+// (notifications of the attribute window it made and destroyed, of the hooks) is handled there,
+// not piled up for the whole run.
+void pumpMessages() {
+    MSG msg;
+    while (PeekMessageW(&msg, nullptr, 0, 0, PM_REMOVE)) {
+        TranslateMessage(&msg);
+        DispatchMessageW(&msg);
+    }
+}
+
 // One call after another; with --memory the recorded calls are dropped as they come.
 void playCalls(sim::Simulation& simulation, const sim::Scenario& scenario, bool memory,
                hostdriver::Lifetime& lifetime) {
@@ -64,6 +75,7 @@ void playCalls(sim::Simulation& simulation, const sim::Scenario& scenario, bool 
         hostdriver::noteActivity("call " + std::to_string(i) + ": " + call.className + "." +
                                  call.method);
         player.play(call);
+        pumpMessages();
         lifetime.afterCall(i, simulation.state());
         if (memory) simulation.recorder().forgetCalls();
     }
