@@ -49,3 +49,12 @@ set_tests_properties(lint.samples PROPERTIES LABELS native)
 if(EXISTS ${CMAKE_SOURCE_DIR}/bench/CMakeLists.txt AND benchmark_FOUND)
   add_subdirectory(bench)
 endif()
+
+# The host-fault sweep (tests/faults): its sampled share runs with the native tests;
+# scripts/fault-sweep runs it over every host call.
+file(GLOB fault_sweep_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/faults/*.cpp)
+add_executable(fault-sweep ${fault_sweep_sources})
+target_link_libraries(fault-sweep PRIVATE quorbel_sim)
+target_compile_definitions(fault-sweep PRIVATE QUORBEL_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
+add_test(NAME fault_sweep COMMAND fault-sweep)
+set_tests_properties(fault_sweep PROPERTIES LABELS native TIMEOUT 900)

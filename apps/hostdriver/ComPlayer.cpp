@@ -5,6 +5,7 @@
 
 #include "AttributeDialog.h"
 #include "CallUi.h"
+#include "CallbackFailure.h"
 #include "ComArguments.h"
 #include "host/AutomationError.h"
 #include "host/DispatchCaller.h"
@@ -109,6 +110,7 @@ void ComPlayer::play(const sim::CallSpec& spec) {
     } catch (const std::exception& e) {
         error = errorJson(vb::err::kAutomation, u"Automation error: " + vb::fromUtf8(e.what()));
     }
+    raiseCallbackFailure();
     if (!error.is_null()) outcome = sim::MethodOutcome{nullptr, std::nullopt};
     recorder.endCall(std::move(outcome.result), std::move(error), std::move(outcome.args));
     state.call = {};

@@ -4,9 +4,12 @@
 // window is destroyed it is reported closed with the same `how` as the native runner gives.
 #include <windows.h>
 
+#include <exception>
 #include <string>
+#include <utility>
 
 #include "CallUi.h"
+#include "CallbackFailure.h"
 #include "MessageBoxHook.h"
 #include "RealActions.h"
 #include "RealControls.h"
@@ -38,13 +41,24 @@ class DialogPlayer : public CallUi {
 
   private:
     static void CALLBACK tick(HWND, UINT, UINT_PTR, DWORD) {
-        if (current_) current_->step();
+        if (!current_) return;
+        try {
+            current_->step();
+        } catch (...) {
+            current_->fail(std::current_exception());
+        }
     }
 
     // Destruction of the dialog: reported at once, before any message box the error trap shows.
     static LRESULT CALLBACK watch(int code, WPARAM wp, LPARAM lp) {
         DialogPlayer* p = current_;
-        if (p && code == HCBT_DESTROYWND && reinterpret_cast<HWND>(wp) == p->dialog_) p->closed();
+        if (p && code == HCBT_DESTROYWND && reinterpret_cast<HWND>(wp) == p->dialog_) {
+            try {
+                p->closed();
+            } catch (...) {
+                p->fail(std::current_exception());
+            }
+        }
         return CallNextHookEx(p ? p->hook_ : nullptr, code, wp, lp);
     }
 
@@ -72,6 +86,16 @@ class DialogPlayer : public CallUi {
             SendMessageW(dialog_, WM_CLOSE, 0, 0);
         }
         busy_ = false;
+    }
+
+    // No more actions: the failure is kept for the call's player and the dialog is closed, so
+    // that the call returns.
+    void fail(std::exception_ptr failure) noexcept {
+        keepCallbackFailure(std::move(failure));
+        busy_ = false;
+        done_ = true;
+        if (dialog_) PostMessageW(dialog_, WM_CLOSE, 0, 0);
+        dialog_ = nullptr;
     }
 
     void closed() {

@@ -108,6 +108,10 @@ IDispatch* make(const vb::String& progId, sim::HostState& state,
                 std::vector<Member> (*members)(T&)) {
     auto object = std::make_shared<T>(state);
     auto table = members(*object);
+    // A member the fault plan leaves out is not there at all: its name is unknown.
+    std::erase_if(table, [&](const Member& m) {
+        return state.faults.lacks(vb::toUtf8(reinterpret_cast<const char16_t*>(m.name)).c_str());
+    });
     return new SimDispatch(std::wstring(progId.begin(), progId.end()), std::move(object),
                            std::move(table));
 }

@@ -11,6 +11,7 @@
 namespace hostdriver {
 
 // A new COM object for one of the three ProgIDs (a reference for the caller); null otherwise.
+// Members the state's fault plan leaves out are missing from it.
 IDispatch* createHostObject(const std::wstring& progId, sim::HostState& state);
 
 }  // namespace hostdriver

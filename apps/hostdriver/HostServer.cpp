@@ -45,7 +45,15 @@ class ClassFactory : public IClassFactory {
         if (!out) return E_POINTER;
         *out = nullptr;
         if (outer) return CLASS_E_NOAGGREGATION;
-        IDispatch* object = createHostObject(progId_, state_);
+        // A ProgID the fault plan refuses behaves as a class that is not registered.
+        if (state_.faults.refuses(vb::String(progId_.begin(), progId_.end())))
+            return REGDB_E_CLASSNOTREG;
+        IDispatch* object = nullptr;
+        try {
+            object = createHostObject(progId_, state_);
+        } catch (...) {
+            return E_OUTOFMEMORY;  // nothing may leave a COM method
+        }
         if (!object) return E_FAIL;
         const HRESULT hr = object->QueryInterface(riid, out);
         object->Release();

@@ -2,8 +2,11 @@
 
 #include <windows.h>
 
+#include <exception>
 #include <stdexcept>
 #include <string>
+
+#include "CallbackFailure.h"
 
 namespace hostdriver {
 
@@ -62,7 +65,14 @@ LRESULT CALLBACK afterMessage(int code, WPARAM wParam, LPARAM lParam) {
     if (code == HC_ACTION && message->message == WM_INITDIALOG && isMessageBox(message->hwnd)) {
         HWND box = message->hwnd;
         s.open = box;
-        s.recorder->messageBox(windowText(GetDlgItem(box, kTextId)), windowText(box), iconOf(box));
+        // Answered whatever happens: an exception leaving the hook would be lost under Wine and
+        // the box left waiting.
+        try {
+            s.recorder->messageBox(windowText(GetDlgItem(box, kTextId)), windowText(box),
+                                   iconOf(box));
+        } catch (...) {
+            keepCallbackFailure(std::current_exception());
+        }
         answerOk(box);
     } else if (code == HC_ACTION && message->message == WM_NCDESTROY && message->hwnd == s.open) {
         s.open = nullptr;

@@ -3,6 +3,8 @@
 //   quorbel-sim run --text FILE      the same for a person
 //   quorbel-sim run --explain FILE   with each call's decisions and why
 //   quorbel-sim run --literal FILE   the host asked at every step (reads not kept for the call)
+//   quorbel-sim run --fault K:KIND | --refuse PROGID | --missing MEMBER ... FILE
+//                                    the same with the simulated host failing (sim/Faults.h)
 //   quorbel-sim demo                 the bundled sample world, as text
 //   quorbel-sim lint FILE            the rule-table check of the scenario's catalogues
 //   quorbel-sim --version            the project's version
@@ -10,6 +12,7 @@
 // lint: 0 no finding, 1 findings, 2 bad input or usage.
 #include <exception>
 #include <iostream>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -25,7 +28,7 @@ namespace {
 constexpr int kBadInput = 2;
 
 const char* const kUsage =
-    "usage: quorbel-sim run [--text] [--explain] [--literal] FILE\n"
+    "usage: quorbel-sim run [--text] [--explain] [--literal] [FAULT OPTION...] FILE\n"
     "       quorbel-sim demo\n"
     "       quorbel-sim lint FILE\n"
     "       quorbel-sim --version\n";
@@ -35,15 +38,21 @@ std::string jsonText(const sim::Json& transcript) {
 }
 
 int usage() {
-    std::cerr << kUsage;
+    std::cerr << kUsage << sim::kFaultOptionsUsage;
     return kBadInput;
 }
 
-int run(const std::vector<std::string>& args) {
+int run(std::vector<std::string> args) {
+    native::RunOptions options;
+    try {
+        sim::takeFaultOptions(args, options.faults);
+    } catch (const std::invalid_argument& e) {
+        std::cerr << "quorbel-sim: " << e.what() << "\n";
+        return usage();
+    }
     if (args.empty()) return usage();
     bool text = false;
     bool literal = false;
-    native::RunOptions options;
     for (size_t i = 0; i + 1 < args.size(); ++i) {
         if (args[i] == "--text" && !text) {
             text = true;

@@ -6,14 +6,25 @@ namespace host {
 
 SessionScope::SessionScope(Factory& factory, HostSlots slots, int32_t callParamsBlock)
     : slots_(slots) {
-    *slots_.appli = createAppli(factory);
-    if (slots_.scene) *slots_.scene = createScene(factory);
-    if (slots_.catalog) *slots_.catalog = createCatalog(factory);
-    int32_t block = callParamsBlock;
-    *slots_.sessionId = vb::CLng(use(*slots_.appli).StartSessionFromCallParams(block));
+    // A failure here ends the entry point before the destructor could run: release the objects
+    // already created, so that none outlives the call.
+    try {
+        *slots_.appli = createAppli(factory);
+        if (slots_.scene) *slots_.scene = createScene(factory);
+        if (slots_.catalog) *slots_.catalog = createCatalog(factory);
+        int32_t block = callParamsBlock;
+        *slots_.sessionId = vb::CLng(use(*slots_.appli).StartSessionFromCallParams(block));
+    } catch (...) {
+        release();
+        throw;
+    }
 }
 
 SessionScope::~SessionScope() {
+    release();
+}
+
+void SessionScope::release() noexcept {
     if (slots_.catalog) slots_.catalog->reset();
     if (slots_.scene) slots_.scene->reset();
     slots_.appli->reset();

@@ -29,6 +29,7 @@ class SessionScope {
     void endSession();  // EndSession(sessionId) on the application object
 
   private:
+    void release() noexcept;
     HostSlots slots_;
 };
 

@@ -8,6 +8,7 @@ namespace native {
 sim::Json runScenario(sim::Scenario scenario, const RunOptions& options) {
     sim::Simulation simulation(std::move(scenario.world));
     simulation.recorder().explainCalls(options.explain);
+    simulation.state().faults = options.faults;
     SimPlatform platform(simulation);
     sim::Player player(simulation, platform, options.reads);
     for (const auto& call : scenario.calls) player.play(call);

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "host/ReadMode.h"
+#include "sim/Faults.h"
 #include "sim/Json.h"
 #include "sim/Scenario.h"
 
@@ -12,7 +13,8 @@ namespace native {
 struct RunOptions {
     // How the plug-in's host objects answer reads (the literal mode asks the host at every step).
     host::ReadMode reads = host::ReadMode::Cached;
-    bool explain = false;  // each call's transcript lists the decisions taken and why
+    bool explain = false;   // each call's transcript lists the decisions taken and why
+    sim::FaultPlan faults;  // what the simulated host is told to fail
 };
 
 // Raises sim::ScenarioError for a scenario that does not load.

@@ -2,11 +2,28 @@
 
 #include <string>
 
+#include "vb/Errors.h"
+
 namespace sim {
 
 int32_t HostState::resolve(int32_t id) const {
     if (id == kCurrentObject && call.spec && call.spec->object) return *call.spec->object;
     return id;
+}
+
+std::optional<FaultKind> HostState::enter(const char* member) {
+    if (faults.lacks(member)) throw vb::RuntimeError(vb::err::kNoSuchMember);
+    const int64_t call = ++hostCallsMade;
+    recorder.hostCall(member);
+    if (callTrace) callTrace->push_back(member);
+    if (hostCallBudget > 0 && call > hostCallBudget)
+        throw vb::RuntimeError(kInjectedError, u"Host call budget spent");
+    const std::optional<FaultKind> fault = faults.at(call);
+    if (!fault) return std::nullopt;
+    fired.push_back({recorder.calls().size(), call, *fault, member});
+    if (*fault == FaultKind::Raise)
+        throw vb::RuntimeError(kInjectedError, injectedDescription(call, member));
+    return fault;
 }
 
 const String* HostState::attributeDialogText(int32_t handle, int32_t controlId) const {

@@ -53,6 +53,8 @@ class Recorder : public dialog::DialogObserver, public rules::Explicacion {
     // {"calls": [...], "objects": ..., "files": [...]}.
     Json transcript(Json objects, Json files) const;
     const Json& calls() const { return calls_; }
+    // Drops the calls recorded so far: a long run that only measures keeps no transcript.
+    void forgetCalls() { calls_ = Json::array(); }
 
   private:
     Json calls_ = Json::array();

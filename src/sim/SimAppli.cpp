@@ -3,35 +3,37 @@
 namespace sim {
 
 Variant SimAppli::StartSessionFromCallParams(int32_t& callParamsBlock) {
-    s_.recorder.hostCall("StartSessionFromCallParams");
-    const bool ours = s_.call.spec && callParamsBlock == s_.call.block;
-    if (!ours || !s_.call.spec->session) return Variant(int32_t{0});
-    return Variant(++s_.sessionsOpened);
+    return s_.member("StartSessionFromCallParams", [&] {
+        const bool ours = s_.call.spec && callParamsBlock == s_.call.block;
+        if (!ours || !s_.call.spec->session) return Variant(int32_t{0});
+        return Variant(++s_.sessionsOpened);
+    });
 }
 
 Variant SimAppli::EndSession(int32_t&) {
-    s_.recorder.hostCall("EndSession");
-    return Variant(true);
+    return s_.member("EndSession", [] { return Variant(true); });
 }
 
 Variant SimAppli::GetLanguage(int32_t&) {
-    s_.recorder.hostCall("GetLanguage");
-    return Variant(s_.world.application.language);
+    return s_.member("GetLanguage", [&] { return Variant(s_.world.application.language); });
 }
 
 Variant SimAppli::GetCallParamsInfo(int32_t&, int32_t code) {
-    s_.recorder.hostCall("GetCallParamsInfo");
-    constexpr int32_t kAttributeDialog = 9;
-    return Variant(code == kAttributeDialog ? s_.attributeDialogHandle() : int32_t{0});
+    return s_.member("GetCallParamsInfo", [&] {
+        constexpr int32_t kAttributeDialog = 9;
+        return Variant(code == kAttributeDialog ? s_.attributeDialogHandle() : int32_t{0});
+    });
 }
 
 Variant SimAppli::InsertMenuItem(int32_t& sessionId, String& command, int16_t a, int16_t b,
                                  const String& text, int16_t c, int16_t d, const String& dll,
                                  const String& className, const String& method) {
-    s_.recorder.hostCall("InsertMenuItem");
-    s_.recorder.menuItem(Json::array({sessionId, toJsonText(command), a, b, toJsonText(text), c, d,
-                                      toJsonText(dll), toJsonText(className), toJsonText(method)}));
-    return Variant(true);
+    return s_.member("InsertMenuItem", [&] {
+        s_.recorder.menuItem(
+            Json::array({sessionId, toJsonText(command), a, b, toJsonText(text), c, d,
+                         toJsonText(dll), toJsonText(className), toJsonText(method)}));
+        return Variant(true);
+    });
 }
 
 }  // namespace sim

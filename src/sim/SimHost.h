@@ -12,6 +12,18 @@ namespace sim {
 using host::String;
 using host::Variant;
 
+// Counts the host objects alive, so that a run can tell that every one was released.
+class LiveCount {
+  public:
+    explicit LiveCount(int& live) : live_(live) { ++live_; }
+    ~LiveCount() { --live_; }
+    LiveCount(const LiveCount&) = delete;
+    LiveCount& operator=(const LiveCount&) = delete;
+
+  private:
+    int& live_;
+};
+
 class SimAppli : public host::Appli {
   public:
     explicit SimAppli(HostState& state) : s_(state) {}
@@ -25,6 +37,7 @@ class SimAppli : public host::Appli {
 
   private:
     HostState& s_;
+    LiveCount live_{s_.liveHostObjects};
 };
 
 class SimScene : public host::Scene {
@@ -48,6 +61,7 @@ class SimScene : public host::Scene {
   private:
     const SceneObject* object(int32_t id) const;
     HostState& s_;
+    LiveCount live_{s_.liveHostObjects};
 };
 
 class SimCatalog : public host::Catalog {
@@ -69,9 +83,11 @@ class SimCatalog : public host::Catalog {
   private:
     const Table* table(int32_t number) const;
     HostState& s_;
+    LiveCount live_{s_.liveHostObjects};
 };
 
-// ProgID -> object; the comparison ignores case, as the registry does.
+// ProgID -> object; the comparison ignores case, as the registry does. A ProgID the fault plan
+// refuses raises 429, as one that is not registered.
 class SimFactory : public host::Factory {
   public:
     explicit SimFactory(HostState& state) : s_(state) {}

@@ -13,72 +13,81 @@ const SceneObject* SimScene::object(int32_t id) const {
 }
 
 Variant SimScene::ObjectGetInfo(int32_t&, int32_t objectId, int32_t code) {
-    s_.recorder.hostCall("ObjectGetInfo");
-    const SceneObject* o = object(objectId);
-    if (!o) return Variant(kEmpty);
-    const auto it = o->info.find(code);
-    return Variant(it == o->info.end() ? kEmpty : it->second);
+    return s_.member("ObjectGetInfo", [&] {
+        const SceneObject* o = object(objectId);
+        if (!o) return Variant(kEmpty);
+        const auto it = o->info.find(code);
+        return Variant(it == o->info.end() ? kEmpty : it->second);
+    });
 }
 
 Variant SimScene::ObjectSetInfo(int32_t&, int32_t objectId, const String& value, int32_t code) {
-    s_.recorder.hostCall("ObjectSetInfo");
-    const int32_t id = s_.resolve(objectId);
-    s_.recorder.setInfo(id, code, value);
-    if (SceneObject* o = s_.world.scene.find(id)) o->info[code] = value;
-    return Variant();
+    return s_.member("ObjectSetInfo", [&] {
+        const int32_t id = s_.resolve(objectId);
+        s_.recorder.setInfo(id, code, value);
+        if (SceneObject* o = s_.world.scene.find(id)) o->info[code] = value;
+        return Variant();
+    });
 }
 
 Variant SimScene::ViewRefresh(int32_t&) {
-    s_.recorder.hostCall("ViewRefresh");
-    s_.recorder.viewRefresh();
-    return Variant();
+    return s_.member("ViewRefresh", [&] {
+        s_.recorder.viewRefresh();
+        return Variant();
+    });
 }
 
 Variant SimScene::SceneGetObjectsNb(int32_t&) {
-    s_.recorder.hostCall("SceneGetObjectsNb");
-    return Variant(static_cast<int32_t>(s_.world.scene.order().size()));
+    return s_.member("SceneGetObjectsNb",
+                     [&] { return Variant(static_cast<int32_t>(s_.world.scene.order().size())); });
 }
 
 Variant SimScene::SceneGetObjectId(int32_t&, int32_t position) {
-    s_.recorder.hostCall("SceneGetObjectId");
-    const auto& order = s_.world.scene.order();
-    if (position < 1 || static_cast<size_t>(position) > order.size())
-        return Variant(int32_t{kNoObject});
-    return Variant(order[static_cast<size_t>(position - 1)]);
+    return s_.member("SceneGetObjectId", [&] {
+        const auto& order = s_.world.scene.order();
+        if (position < 1 || static_cast<size_t>(position) > order.size())
+            return Variant(int32_t{kNoObject});
+        return Variant(order[static_cast<size_t>(position - 1)]);
+    });
 }
 
 Variant SimScene::ObjectGetParentId(int32_t&, int32_t objectId) {
-    s_.recorder.hostCall("ObjectGetParentId");
-    const SceneObject* o = object(objectId);
-    return Variant(o ? o->parent : int32_t{kNoObject});
+    return s_.member("ObjectGetParentId", [&] {
+        const SceneObject* o = object(objectId);
+        return Variant(o ? o->parent : int32_t{kNoObject});
+    });
 }
 
 Variant SimScene::ObjectGetChildrenNb(int32_t&, int32_t objectId, int16_t) {
-    s_.recorder.hostCall("ObjectGetChildrenNb");
-    const SceneObject* o = object(objectId);
-    return Variant(o ? static_cast<int32_t>(o->children.size()) : int32_t{0});
+    return s_.member("ObjectGetChildrenNb", [&] {
+        const SceneObject* o = object(objectId);
+        return Variant(o ? static_cast<int32_t>(o->children.size()) : int32_t{0});
+    });
 }
 
 Variant SimScene::ObjectGetChildId(int32_t&, int32_t objectId, int32_t position, int16_t) {
-    s_.recorder.hostCall("ObjectGetChildId");
-    const SceneObject* o = object(objectId);
-    if (!o || position < 1 || static_cast<size_t>(position) > o->children.size())
-        return Variant(int32_t{kNoObject});
-    return Variant(o->children[static_cast<size_t>(position - 1)]);
+    return s_.member("ObjectGetChildId", [&] {
+        const SceneObject* o = object(objectId);
+        if (!o || position < 1 || static_cast<size_t>(position) > o->children.size())
+            return Variant(int32_t{kNoObject});
+        return Variant(o->children[static_cast<size_t>(position - 1)]);
+    });
 }
 
 Variant SimScene::ObjectGetScript(int32_t&, int32_t objectId) {
-    s_.recorder.hostCall("ObjectGetScript");
-    const SceneObject* o = object(objectId);
-    return Variant(o ? o->script : kEmpty);
+    return s_.member("ObjectGetScript", [&] {
+        const SceneObject* o = object(objectId);
+        return Variant(o ? o->script : kEmpty);
+    });
 }
 
 Variant SimScene::EditReplaceSelection(int32_t&, const String& catalog, const String& reference,
                                        int16_t, int32_t width, int32_t depth, int32_t height,
                                        int16_t) {
-    s_.recorder.hostCall("EditReplaceSelection");
-    s_.recorder.replaceSelection(catalog, reference, width, depth, height);
-    return Variant(true);
+    return s_.member("EditReplaceSelection", [&] {
+        s_.recorder.replaceSelection(catalog, reference, width, depth, height);
+        return Variant(true);
+    });
 }
 
 }  // namespace sim

@@ -47,6 +47,28 @@ foreach(traced IN ITEMS 04_colocacion_rechazada 03_colocacion_permitida_excepcio
   wine_test(wine.trace.${name} ${WINE_TESTS}/trace ${QUORBEL_NATIVE_RUNNER}
             ${CMAKE_BINARY_DIR}/hostdriver.exe ${CMAKE_SOURCE_DIR}/samples/${traced}.json)
 endforeach()
+
+# Host faults at the real boundary: the simulated host behind COM fails one member with
+# DISP_E_EXCEPTION or answers it wrongly, refuses to create a ProgID, or lacks a member; the DLL
+# must fail the call with the error in EXCEPINFO (or its trap must show it) as the native runner
+# does, and the driver goes on to the next call.
+set(fault_cases
+    "raise_in_placement|samples/04_colocacion_rechazada.json|--fault|40:raise"
+    "raise_in_dialog|tests/scenarios/dialog/wizard_catalogues.json|--fault|300:raise"
+    "huge_text|samples/04_colocacion_rechazada.json|--fault|30:hugeText"
+    "empty_text|tests/scenarios/dialog/wizard_catalogues.json|--fault|250:emptyText"
+    "minus_one|samples/04_colocacion_rechazada.json|--fault|9:minusOne"
+    "refused_progid|samples/01_inicio.json|--refuse|Pelmora.Scene"
+    "refused_progid_in_dialog|tests/scenarios/dialog/wizard_catalogues.json|--refuse|Pelmora.Catalog"
+    "missing_member|samples/04_colocacion_rechazada.json|--missing|TableGetLineInfo"
+    "missing_member_in_dialog|tests/scenarios/dialog/wizard_catalogues.json|--missing|ObjectGetScript")
+foreach(case IN LISTS fault_cases)
+  string(REPLACE "|" ";" parts "${case}")
+  list(POP_FRONT parts name file)
+  wine_test(wine.fault.${name} ${WINE_TESTS}/play-scenario ${QUORBEL_NATIVE_RUNNER}
+            ${CMAKE_BINARY_DIR}/hostdriver.exe ${CMAKE_SOURCE_DIR}/${file} ${parts})
+endforeach()
+
 wine_test(wine.hostdriver_checks /usr/lib/wine/wine64 ${CMAKE_BINARY_DIR}/hostdriver-checks.exe)
 
 # The dialog's window without a host: layout at 96 and 120 dpi, drawings, colours, icon, preview.
@@ -71,3 +93,8 @@ add_test(NAME wine.msi_x86_tables COMMAND ${WINE_TESTS}/msi-tables
          ${QUORBEL_WIN32_BUILD}/Quorbel-${PROJECT_VERSION}-x86.msi
          ${CMAKE_BINARY_DIR}/Quorbel-${PROJECT_VERSION}-x64.msi ${PROJECT_VERSION})
 set_tests_properties(wine.msi_x86_tables PROPERTIES LABELS wine)
+
+# A long working day through the real DLL: every object released and private memory flat.
+wine_test(wine.leak_run ${WINE_TESTS}/leak-run ${CMAKE_BINARY_DIR}/hostdriver.exe
+          ${CMAKE_SOURCE_DIR}/tests/scenarios/dialog/open_and_exit.json)
+set_tests_properties(wine.leak_run PROPERTIES TIMEOUT 300)

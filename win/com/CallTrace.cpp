@@ -76,9 +76,14 @@ std::string entryName(const char* className, const char* functionName) {
     return std::string(className) + "." + f.substr(from, open - from);
 }
 
-CallTrace::CallTrace(const char* className, const std::source_location& where)
+CallTrace::CallTrace(const char* className, const std::source_location& where) noexcept
     : listening_(traceFilePath().empty() ? nullptr : this) {
-    if (!traceFilePath().empty()) header_ = entryName(className, where.function_name());
+    if (traceFilePath().empty()) return;
+    try {
+        header_ = entryName(className, where.function_name());
+    } catch (...) {
+        // Without memory for the name the call still runs; its header is left bare.
+    }
 }
 
 CallTrace::~CallTrace() = default;

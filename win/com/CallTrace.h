@@ -18,7 +18,7 @@ const std::wstring& traceFilePath();
 // Listens to one call's decisions while it lives, when a trace file is set.
 class CallTrace : public rules::Explicacion {
   public:
-    CallTrace(const char* className, const std::source_location& where);
+    CallTrace(const char* className, const std::source_location& where) noexcept;
     ~CallTrace() override;
     CallTrace(const CallTrace&) = delete;
     CallTrace& operator=(const CallTrace&) = delete;

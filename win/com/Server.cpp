@@ -45,10 +45,18 @@ class ClassFactory : public IClassFactory {
     }
 
   private:
+    // The instance's members (platform, view, handlers) may fail to construct: nothing of that
+    // may leave CreateInstance.
     template <class T>
-    static HRESULT make(REFIID riid, void** out) {
-        T* object = new (std::nothrow) T();
-        if (!object) return E_OUTOFMEMORY;
+    static HRESULT make(REFIID riid, void** out) noexcept {
+        T* object = nullptr;
+        try {
+            object = new T();
+        } catch (const std::bad_alloc&) {
+            return E_OUTOFMEMORY;
+        } catch (...) {
+            return E_UNEXPECTED;
+        }
         HRESULT hr = object->init();
         if (SUCCEEDED(hr)) hr = object->QueryInterface(riid, out);
         object->Release();
@@ -75,10 +83,19 @@ extern "C" HRESULT STDAPICALLTYPE DllCanUnloadNow() {
     return quorbel::liveObjects() == 0 ? S_OK : S_FALSE;
 }
 
+// Registration builds its key paths as strings: a failed allocation is reported, not thrown.
 extern "C" HRESULT STDAPICALLTYPE DllRegisterServer() {
-    return quorbel::registerServer();
+    try {
+        return quorbel::registerServer();
+    } catch (...) {
+        return E_OUTOFMEMORY;
+    }
 }
 
 extern "C" HRESULT STDAPICALLTYPE DllUnregisterServer() {
-    return quorbel::unregisterServer();
+    try {
+        return quorbel::unregisterServer();
+    } catch (...) {
+        return E_OUTOFMEMORY;
+    }
 }

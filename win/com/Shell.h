@@ -2,7 +2,6 @@
 // What each COM instance owns: the Win32 platform, the host factory (its objects' reads kept for
 // the call unless QUORBEL_HOST_READS=literal), the dialog's window view and the Env over them;
 // and how each entry point runs.
-#include <functional>
 #include <source_location>
 
 #include "com/CallTrace.h"
@@ -23,8 +22,9 @@ class Shell {
 
     // Runs one entry point inside the error boundary, with the user's decimal separator; its
     // decisions go to the support trace when one is set (`where` names the entry point).
-    HRESULT entry(const std::function<void()>& body,
-                  const std::source_location& where = std::source_location::current()) {
+    template <class Body>
+    HRESULT entry(Body&& body,
+                  const std::source_location& where = std::source_location::current()) noexcept {
         CallTrace trace(className_, where);
         const HRESULT result = guarded([&] {
             vb::setDecimalSeparator(platform_.decimalSeparator());

@@ -60,6 +60,11 @@ DialogWindow* DialogWindow::of(HWND h) {
     return reinterpret_cast<DialogWindow*>(GetWindowLongPtrW(root, GWLP_USERDATA));
 }
 
+void DialogWindow::keepError(std::exception_ptr error) noexcept {
+    if (!error_) error_ = std::move(error);
+    if (hwnd_) PostMessageW(hwnd_, WM_NULL, 0, 0);
+}
+
 void DialogWindow::runModal(HWND owner) {
     WindowClasses classes;
     bool ownerWasEnabled = owner && IsWindowEnabled(owner);

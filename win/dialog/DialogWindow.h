@@ -55,6 +55,8 @@ class DialogWindow {
     LRESULT controlMessage(HWND h, UINT msg, WPARAM wp, LPARAM lp, bool& handled);
     void paintPicture(HWND h, HDC dc, const RECT& client);
     static DialogWindow* of(HWND anyWindowOfTheDialog);
+    // An exception of a window procedure's own work: kept, and the modal loop ends.
+    void keepError(std::exception_ptr error) noexcept;
 
   private:
     template <typename F>

@@ -28,7 +28,19 @@ LRESULT forward(HWND h, UINT msg, WPARAM wp, LPARAM lp) {
     return root && root != h ? SendMessageW(root, msg, wp, lp) : 0;
 }
 
-LRESULT CALLBACK dialogProc(HWND h, UINT msg, WPARAM wp, LPARAM lp) {
+// Nothing may leave a window procedure into the system's frames: an exception of the view's own
+// work (a failed allocation) ends the modal loop as a handler's error does.
+template <class Body>
+LRESULT safely(HWND h, Body&& body) noexcept {
+    try {
+        return body();
+    } catch (...) {
+        if (DialogWindow* view = DialogWindow::of(h)) view->keepError(std::current_exception());
+        return 0;
+    }
+}
+
+LRESULT dialogMessages(HWND h, UINT msg, WPARAM wp, LPARAM lp) {
     if (msg == WM_NCCREATE) {
         auto* cs = reinterpret_cast<CREATESTRUCTW*>(lp);
         SetWindowLongPtrW(h, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(cs->lpCreateParams));
@@ -73,7 +85,7 @@ void paintShape(HWND h, HDC dc) {
 }
 
 // Pictures, containers, the frame and the shapes.
-LRESULT CALLBACK ownProc(HWND h, UINT msg, WPARAM wp, LPARAM lp) {
+LRESULT ownMessages(HWND h, UINT msg, WPARAM wp, LPARAM lp) {
     if (forwardedToDialog(msg)) return forward(h, msg, wp, lp);
     wchar_t cls[32];
     GetClassNameW(h, cls, 32);
@@ -125,7 +137,9 @@ LRESULT CALLBACK ownProc(HWND h, UINT msg, WPARAM wp, LPARAM lp) {
     return DefWindowProcW(h, msg, wp, lp);
 }
 
-LRESULT CALLBACK subclassProc(HWND h, UINT msg, WPARAM wp, LPARAM lp, UINT_PTR, DWORD_PTR) {
+LRESULT CALLBACK subclassProc(HWND h, UINT msg, WPARAM wp, LPARAM lp, UINT_PTR, DWORD_PTR);
+
+LRESULT subclassMessages(HWND h, UINT msg, WPARAM wp, LPARAM lp) {
     if (msg == WM_NCDESTROY) RemoveWindowSubclass(h, subclassProc, 1);
     // A button or picture may carry a label: its notifications and colours go to the dialog.
     if (msg == WM_COMMAND || msg == WM_CTLCOLORSTATIC) return forward(h, msg, wp, lp);
@@ -135,6 +149,18 @@ LRESULT CALLBACK subclassProc(HWND h, UINT msg, WPARAM wp, LPARAM lp, UINT_PTR, 
         if (handled) return r;
     }
     return DefSubclassProc(h, msg, wp, lp);
+}
+
+LRESULT CALLBACK dialogProc(HWND h, UINT msg, WPARAM wp, LPARAM lp) {
+    return safely(h, [&] { return dialogMessages(h, msg, wp, lp); });
+}
+
+LRESULT CALLBACK ownProc(HWND h, UINT msg, WPARAM wp, LPARAM lp) {
+    return safely(h, [&] { return ownMessages(h, msg, wp, lp); });
+}
+
+LRESULT CALLBACK subclassProc(HWND h, UINT msg, WPARAM wp, LPARAM lp, UINT_PTR, DWORD_PTR) {
+    return safely(h, [&] { return subclassMessages(h, msg, wp, lp); });
 }
 
 void registerClass(const wchar_t* name, WNDPROC proc, UINT style) {

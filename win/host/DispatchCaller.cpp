@@ -58,7 +58,11 @@ Arg::Arg(Arg&& o) noexcept : v_(o.v_), refStr_(o.refStr_), target_(o.target_) {
     o.target_ = nullptr;
 }
 Arg::~Arg() {
-    if (target_) *target_ = fromBstr(refStr_);
+    // A destructor must not raise: when the copy cannot be made the string keeps its value.
+    try {
+        if (target_) *target_ = fromBstr(refStr_);
+    } catch (...) {
+    }
     SysFreeString(refStr_);
     if (!(V_VT(&v_) & VT_BYREF)) VariantClear(&v_);
 }

@@ -156,7 +156,13 @@ IDispatch* createByProgId(const String& progId) {
 
 template <class T>
 std::shared_ptr<T> adopt(IDispatch* d) {
-    auto obj = std::make_shared<T>(d);
+    std::shared_ptr<T> obj;
+    try {
+        obj = std::make_shared<T>(d);
+    } catch (...) {
+        d->Release();  // no host object may stay referenced after a failed creation
+        throw;
+    }
     d->Release();  // the caller now holds the only reference
     return obj;
 }

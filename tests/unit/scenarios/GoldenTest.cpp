@@ -36,9 +36,10 @@ class Golden : public ::testing::TestWithParam<std::string> {};
 TEST_P(Golden, TranscriptMatches) {
     const fs::path scenario = scenariosRoot() / GetParam();
     const Plain expected = Plain::parse(sim::readWholeFile(goldenOf(scenario).string()));
+    native::RunOptions literal;
+    literal.reads = host::ReadMode::Literal;
     const Plain actual = Plain::parse(
-        native::runScenarioText(sim::readWholeFile(scenario.string()), {host::ReadMode::Literal})
-            .dump());
+        native::runScenarioText(sim::readWholeFile(scenario.string()), literal).dump());
     EXPECT_TRUE(expected == actual) << GetParam() << " differs from its golden:\n"
                                     << readableDiff(expected, actual);
 }

@@ -3,9 +3,11 @@
 // recorder, the scenario arguments as VARIANTs, and failed calls as VB errors. Prints one line per
 // failed check and a summary; exits 1 when any failed.
 #include <cstdio>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
+#include "CallbackFailure.h"
 #include "ComArguments.h"
 #include "HostObjects.h"
 #include "Machine.h"
@@ -248,6 +250,40 @@ void automationFailuresMapToVbErrors() {
     }
 }
 
+// What a timer procedure keeps reaches the call's player once, as a DriverFailure naming it;
+// of two failures the first is kept.
+int ticks = 0;
+
+void CALLBACK failingTick(HWND, UINT, UINT_PTR, DWORD) {
+    try {
+        throw std::runtime_error(++ticks == 1 ? "first" : "second");
+    } catch (...) {
+        hostdriver::keepCallbackFailure(std::current_exception());
+    }
+}
+
+void callbackFailuresAreRaisedOnce() {
+    const UINT_PTR timer = SetTimer(nullptr, 0, 1, failingTick);
+    MSG msg;
+    while (ticks < 2 && GetMessageW(&msg, nullptr, 0, 0)) DispatchMessageW(&msg);
+    KillTimer(nullptr, timer);
+    std::string raised;
+    try {
+        hostdriver::raiseCallbackFailure();
+    } catch (const hostdriver::DriverFailure& e) {
+        raised = e.what();
+    }
+    expect(raised.find("first") != std::string::npos && raised.find("second") == std::string::npos,
+           "callback failure raised: " + raised);
+    bool again = false;
+    try {
+        hostdriver::raiseCallbackFailure();
+    } catch (...) {
+        again = true;
+    }
+    expect(!again, "callback failure raised only once");
+}
+
 }  // namespace
 
 int main() {
@@ -258,6 +294,7 @@ int main() {
     scenarioArgumentsConvert();
     decimalSeparatorReachesTheLocale();
     automationFailuresMapToVbErrors();
+    callbackFailuresAreRaisedOnce();
     CoUninitialize();
     std::printf("%d passed, %d failed\n", passed, failed);
     return failed == 0 ? 0 : 1;
