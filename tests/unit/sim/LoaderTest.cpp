@@ -58,6 +58,29 @@ INSTANTIATE_TEST_SUITE_P(
                 "calls[0].ui[0].x: unknown key"},
         BadCase{R"([1])", "(top level): expected an object"}));
 
+// An object at depth `depth` below the top level, inside its ancestors.
+std::string nested(int depth) {
+    std::string json = R"({"scene":[)";
+    for (int d = 0; d <= depth; ++d)
+        json += R"({"id":)" + std::to_string(d + 1) + R"(,"children":[)";
+    for (int d = 0; d <= depth; ++d) json += "]}";
+    return json + "]}";
+}
+
+// Objects nested some 17,000 levels deep (a 500 KB file) overflowed the stack.
+TEST(Loader, RefusesObjectsNestedTooDeep) {
+    EXPECT_NO_THROW(sim::loadScenario(nested(100)));
+    std::string where = "scene[0]";
+    for (int d = 0; d < 101; ++d) where += ".children[0]";
+    try {
+        sim::loadScenario(nested(101));
+        FAIL() << "loaded 101 levels";
+    } catch (const sim::ScenarioError& e) {
+        EXPECT_EQ(std::string(e.what()), where + ": objects nested more than 100 deep");
+    }
+    EXPECT_THROW(sim::loadScenario(nested(30000)), sim::ScenarioError);
+}
+
 TEST(Loader, InvalidJsonIsAnError) {
     try {
         sim::loadScenario("{\"scene\": [");
