@@ -7,16 +7,22 @@ find_package(benchmark QUIET)
 
 file(GLOB native_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/native/*.cpp)
 file(GLOB sim_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/sim/*.cpp)
-add_library(quorbel_sim STATIC ${native_sources} ${sim_sources})
+file(GLOB lint_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/lint/*.cpp)
+add_library(quorbel_sim STATIC ${native_sources} ${sim_sources} ${lint_sources})
 target_link_libraries(quorbel_sim PUBLIC quorbel_core PkgConfig::LIBXML2 nlohmann_json::nlohmann_json)
 
 file(GLOB app_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/apps/quorbel-sim/*.cpp)
 add_executable(quorbel-sim ${app_sources})
 target_link_libraries(quorbel-sim PRIVATE quorbel_sim)
 target_compile_definitions(quorbel-sim PRIVATE QUORBEL_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
+target_include_directories(quorbel-sim PRIVATE ${QUORBEL_VERSION_DIR})
 
 enable_testing()
 include(GoogleTest)
+string(REPLACE "." "\\." version_pattern "^quorbel-sim ${PROJECT_VERSION}\n$")
+add_test(NAME quorbel_sim.version COMMAND quorbel-sim --version)
+set_tests_properties(quorbel_sim.version PROPERTIES LABELS native
+                     PASS_REGULAR_EXPRESSION "${version_pattern}")
 # One test binary per folder under tests/unit, so that each area builds and fails on its own.
 file(GLOB unit_dirs LIST_DIRECTORIES true ${CMAKE_SOURCE_DIR}/tests/unit/*)
 foreach(dir IN LISTS unit_dirs)
@@ -27,10 +33,18 @@ foreach(dir IN LISTS unit_dirs)
       add_executable(test_${area} ${test_sources})
       target_link_libraries(test_${area} PRIVATE quorbel_sim GTest::gtest_main)
       target_compile_definitions(test_${area} PRIVATE QUORBEL_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
-      gtest_discover_tests(test_${area} PROPERTIES LABELS native DISCOVERY_TIMEOUT 60)
+      # Named cases: the test name is the case's name, without gtest's printed parameter.
+      gtest_discover_tests(test_${area} NO_PRETTY_VALUES PROPERTIES LABELS native
+                           DISCOVERY_TIMEOUT 60)
     endif()
   endif()
 endforeach()
+
+# The rule-table check on the samples, with the exit codes the README documents.
+add_test(NAME lint.samples
+         COMMAND ${CMAKE_SOURCE_DIR}/tests/lint/check-samples $<TARGET_FILE:quorbel-sim>
+                 ${CMAKE_SOURCE_DIR})
+set_tests_properties(lint.samples PROPERTIES LABELS native)
 
 # Every sample must play through the runner (exit 0); under the sanitizers this is their check.
 file(GLOB samples CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/samples/*.json

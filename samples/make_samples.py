@@ -20,6 +20,33 @@ TEXTOS = {
     "TR_9017": "Muebles con medidas no permitidas:",
     "TR_9021": "Modelo del programa ST: consulte los plazos de entrega.",
 }
+# The special-editing dialog's texts: captions, the names of the two kinds of diagonal, and
+# its messages (quorbel-sim lint finds a catalogue without them).
+TEXTOS_DIALOGO = {
+    "TR_0001": "Edición de especiales",
+    "TR_0002": "Costados", "TR_0003": "Frentes", "TR_0004": "Equip. interior",
+    "TR_0005": "Otros", "TR_0006": "Tipos de especiales", "TR_0007": "Diagonales",
+    "TR_0008": "Encastres de pilar",
+    "TR_0009": "ANCHO", "TR_0010": "ALTO", "TR_0011": "FONDO", "TR_0012": "ANCHO - ALTO",
+    "TR_0013": "ANCHO - FONDO", "TR_0014": "ALTO - FONDO", "TR_0015": "ANCHO - ALTO - FONDO",
+    "TR_0016": "Medidas", "TR_0017": "Ancho:", "TR_0018": "Alto:", "TR_0019": "Fondo:",
+    "TR_0021": "Cancelar valores",
+    "TR_0022": "Seleccione el tipo de especial a modificar.",
+    "TR_0023": "Seleccione la forma de la diagonal.",
+    "TR_0024": "No Disponible", "TR_0027": "Aceptar Componentes",
+    "TR_0028": "Salir sin guardar", "TR_0037": "Vista previa:", "TR_0038": "Valores:",
+    "TR_0043": "Este mueble no admite diagonal.", "TR_0044": "Medidas por defecto",
+    "TR_0046": "Diagonal por longitudes", "TR_0047": "Diagonal por ángulo",
+    "TR_9003": "Las medidas especiales no han cambiado:",
+    "TR_9004": "Medidas sin cambio",
+    "TR_9006": "Encastres de pilar",
+    "TR_9007": "Diagonal",
+    "TR_9010": "Un valor de encastre supera su máximo.",
+    "TR_9011": "Falta un valor de encastre.",
+    "TR_9018": "Ancho fuera de límites: ",
+    "TR_9019": "Alto fuera de límites: ",
+    "TR_9020": "Fondo fuera de límites: ",
+}
 INGLES = {
     "Atención": "Attention",
     TEXTOS["TR_9014"]: "The changed measures are not allowed for this door model.",
@@ -42,6 +69,10 @@ def article(name, width, depth, height):
     return line_name(name, c3=width, c4=depth, c5=height)
 
 
+def textos():
+    return [line_code(k, c9=v) for k, v in {**TEXTOS, **TEXTOS_DIALOGO}.items()]
+
+
 def model(code, name, script="PUERTA"):
     return line_code(code, c1=code, c3=name, c4=script)
 
@@ -53,12 +84,12 @@ def cocinas():
         line_code("MO_EF", c2="MO: M01 M02"),      # depth: TIBER, MONZA
         line_code("MO_EAAl", c2="MO: M02"),
         line_code("MO_EAF", c2="MO: M02"),
-        line_code("EX_EA", c2="EX: B45-TIBER A60-TIBER"),
+        line_code("EX_EA", c2="EX: B45-TIBER"),
     ]
     return {
         "language": "ESP",
         "tables": {
-            "2": [line_code(k, c9=v) for k, v in TEXTOS.items()] + reglas,
+            "2": textos() + reglas,
             "3": [article("B60", "600", "560", "720"), article("B45", "450", "560", "720"),
                   article("A60", "600", "330", "700")],
             "4": [line_name("D-B60", c3="Mueble bajo 60 cm, una puerta"),
@@ -72,7 +103,8 @@ def cocinas():
 
 def fabricante(articulos):
     return {"language": "ESP",
-            "tables": {"2": [line_code(k, c9=v) for k, v in TEXTOS.items()],
+            # "EX:" empties the width exception list left by the catalogue used before.
+            "tables": {"2": textos() + [line_code("EX_EA", c2="EX:")],
                        "3": [article(a, "600", "560", "720") for a in articulos],
                        "8": [model("F01", "TIBER"), model("F02", "NEVADA")]}}
 

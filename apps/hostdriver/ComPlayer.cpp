@@ -6,6 +6,7 @@
 #include "AttributeDialog.h"
 #include "CallUi.h"
 #include "ComArguments.h"
+#include "host/AutomationError.h"
 #include "host/DispatchCaller.h"
 #include "sim/ArgCodec.h"
 #include "vb/Errors.h"
@@ -15,7 +16,6 @@ namespace hostdriver {
 namespace {
 
 constexpr int32_t kFirstBlock = 1000;
-constexpr int kWrongArgumentCount = 450;
 
 IDispatch* createPlugin(const wchar_t* progId) {
     CLSID clsid;
@@ -29,29 +29,6 @@ IDispatch* createPlugin(const wchar_t* progId) {
 
 sim::Json errorJson(int number, const vb::String& description) {
     return {{"number", number}, {"description", sim::toJsonText(description)}};
-}
-
-vb::String fromBstr(BSTR b) {
-    return vb::String(reinterpret_cast<const char16_t*>(b ? b : L""), b ? SysStringLen(b) : 0);
-}
-
-// A failed Invoke as the runtime error a late-bound caller sees.
-vb::RuntimeError invokeError(HRESULT hr, EXCEPINFO& excep) {
-    if (hr == DISP_E_BADPARAMCOUNT)
-        return vb::RuntimeError(kWrongArgumentCount,
-                                u"Wrong number of arguments or invalid property assignment");
-    if (hr == DISP_E_TYPEMISMATCH) return vb::RuntimeError(vb::err::kTypeMismatch);
-    if (hr != DISP_E_EXCEPTION) return vb::RuntimeError(vb::err::kAutomation);
-    if (excep.pfnDeferredFillIn) excep.pfnDeferredFillIn(&excep);
-    int number = vb::err::kAutomation;
-    if (HRESULT_FACILITY(excep.scode) == FACILITY_CONTROL) number = HRESULT_CODE(excep.scode);
-    if (excep.wCode) number = excep.wCode;
-    vb::String description = fromBstr(excep.bstrDescription);
-    SysFreeString(excep.bstrSource);
-    SysFreeString(excep.bstrDescription);
-    SysFreeString(excep.bstrHelpFile);
-    if (description.empty()) description = vb::standardDescription(number);
-    return vb::RuntimeError(number, description);
 }
 
 DISPID memberId(IDispatch* object, const sim::CallSpec& call) {
@@ -73,7 +50,7 @@ sim::Json call(IDispatch* object, DISPID id, DISPPARAMS& params) {
     UINT argErr = 0;
     const HRESULT hr = object->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &params,
                                       &result, &excep, &argErr);
-    if (FAILED(hr)) throw invokeError(hr, excep);
+    if (FAILED(hr)) throw quorbel::automationError(hr, excep);
     sim::Json json = sim::variantJson(quorbel::fromVariant(result));
     VariantClear(&result);
     return json;

@@ -2,12 +2,17 @@
 //   quorbel-sim run FILE          the transcript as JSON
 //   quorbel-sim run --text FILE   the same for a person
 //   quorbel-sim demo              the bundled sample world, as text
-// Exit codes: 0 played, 2 bad input or usage, 1 an unexpected failure of the runner itself.
+//   quorbel-sim lint FILE         the rule-table check of the scenario's catalogues
+//   quorbel-sim --version         the project's version
+// Exit codes: 0 played, 2 bad input or usage, 1 an unexpected failure of the runner itself;
+// lint: 0 no finding, 1 findings, 2 bad input or usage.
 #include <exception>
 #include <iostream>
 #include <string>
 #include <vector>
 
+#include "LintCommand.h"
+#include "QuorbelVersion.h"
 #include "Samples.h"
 #include "native/RunScenario.h"
 #include "sim/ScenarioLoader.h"
@@ -19,7 +24,9 @@ constexpr int kBadInput = 2;
 
 const char* const kUsage =
     "usage: quorbel-sim run [--text] FILE\n"
-    "       quorbel-sim demo\n";
+    "       quorbel-sim demo\n"
+    "       quorbel-sim lint FILE\n"
+    "       quorbel-sim --version\n";
 
 std::string jsonText(const sim::Json& transcript) {
     return transcript.dump(2, ' ', false, sim::Json::error_handler_t::replace) + "\n";
@@ -60,6 +67,11 @@ int demo() {
 int dispatch(const std::vector<std::string>& args) {
     if (!args.empty() && args[0] == "run") return run({args.begin() + 1, args.end()});
     if (args.size() == 1 && args[0] == "demo") return demo();
+    if (args.size() == 2 && args[0] == "lint") return quorbel_sim::lint(args[1]);
+    if (args.size() == 1 && args[0] == "--version") {
+        std::cout << "quorbel-sim " QUORBEL_VERSION_TEXT "\n";
+        return 0;
+    }
     std::cerr << kUsage;
     return kBadInput;
 }

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "dialog/Controles.h"
+#include "dialog/PanelEncastres.h"
 #include "env/Env.h"
 #include "handlers/Textos.h"
 #include "rules/ModVariables.h"
@@ -166,10 +167,27 @@ class frmEspEnc {
     void mensaje(const String& texto, const String& titulo, platform::MsgIcon icono);
     handlers::Idiomas idiomas();  // both languages; traducir ignores case
     String textoClave(const handlers::Idiomas& idiomas, const String& clave);
-    // The recess content height is 16-bit: beyond it no more rows are added (one message).
-    bool cabeEnPanel(int32_t incremento);
-    bool sumaAlto(int32_t incremento);
-    void creaFilasDe(int16_t i, const String& script);
+    // The recess panel (frmEspEnc_Panel.cpp): each recess's title and rows as read at load, so
+    // that the panel can be laid out again, titles first, when they do not all fit.
+    struct FilaEncastre {
+        String etiqueta, rango;
+    };
+    struct EncastreEnPanel {
+        String texto;
+        EncastrePanel medida;
+        std::vector<FilaEncastre> filas;
+    };
+    struct Panel {
+        std::vector<EncastreEnPanel> encastres;
+        bool lleno = false;  // something did not fit: laid out again after the walk
+        Label valorDiseno;   // value row 0 as designed
+        TextBox cajaDiseno;
+    };
+    AltosPanel altosPanel() const;
+    void leeEncastre(const String& texto, int16_t i, const String& script);
+    void colocaEncastre(size_t i, bool conValores);
+    void completaPanel();
+    void avisaPanelLleno(size_t conValores, size_t colocados);
     struct Pasada;  // working state of one acceptance pass
     void compruebaMedidas(Pasada& p, const double* min, const double* max);
     void compruebaCajeos(Pasada& p);
@@ -180,9 +198,10 @@ class frmEspEnc {
     void escribeMedidas();
     void escribeTipo(int t, const String& valor);
     void limpiaTipos();
-    struct Recorrido;  // objects already walked and the current depth
-    void recorreDesde(int32_t id, bool& tieneHijos, std::array<int16_t, 5>& cuentas, int16_t& nivel,
-                      Recorrido& recorrido);
+    struct Recorrido;  // the levels being walked and the objects already walked
+    void entraEn(int32_t id, Recorrido& recorrido);
+    bool siguienteHijo(bool& tieneHijos, std::array<int16_t, 5>& cuentas, int16_t& nivel,
+                       Recorrido& recorrido);
     void listaComponente(int32_t child, int lista, std::array<int16_t, 5>& cuentas, int16_t nivel,
                          const String& script);
     bool exportaImagen(const String& nombre, const String& ruta);
@@ -192,7 +211,7 @@ class frmEspEnc {
     rules::ModVariables& mv_;
     bool cargado_ = false;
     bool descargado_ = false;
-    bool panelLleno_ = false;
+    Panel panel_;
 };
 
 }  // namespace dialog

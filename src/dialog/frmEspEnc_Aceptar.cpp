@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "dialog/ScriptParametros.h"
+#include "dialog/TextoCajeos.h"
 #include "dialog/frmEspEnc.h"
 #include "vb/Conversions.h"
 #include "vb/Strings.h"
@@ -131,8 +132,7 @@ void frmEspEnc::compruebaMedidas(Pasada& p, const double* min, const double* max
 
 void frmEspEnc::compruebaCajeos(Pasada& p) {
     textoCajeosNuevo = CadenaCajeos();
-    mv_.docCajeos = plataforma().createXmlDocument();
-    mv_.docCajeos->loadXML(textoCajeosNuevo);
+    mv_.docCajeos = cargaCajeos(plataforma(), textoCajeosNuevo);
     // Each failure looks its text up at once; the last one found is the one reported.
     auto falla = [&](const String& clave) {
         textoCajeosNuevo.clear();

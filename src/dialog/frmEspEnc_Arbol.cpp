@@ -2,8 +2,8 @@
 // and the diagonal component.
 #include <algorithm>
 #include <unordered_set>
+#include <vector>
 
-#include "dialog/Lectura.h"
 #include "dialog/frmEspEnc.h"
 #include "vb/Conversions.h"
 #include "vb/Strings.h"
@@ -16,7 +16,6 @@ using vb::CStr;
 namespace {
 
 constexpr int kListaDiagonal = 5;
-constexpr size_t kProfundidadMaxima = 256;  // no host answer may exhaust the stack
 constexpr int16_t kMaximoEntero = 32767;
 
 // List of a component by its code: 0..4, kListaDiagonal, or -1 when it is not listed.
@@ -27,6 +26,7 @@ int listaDeCodigo(const String& code) {
     return -1;
 }
 
+// Deeper levels than the five prefixes keep the last one.
 String sangria(int16_t nivel) {
     static const char16_t* const sangrias[] = {u"", u"==>", u"  ==>", u"      ==>", u"        ==>"};
     return sangrias[std::clamp<int>(nivel, 0, 4)];
@@ -38,44 +38,73 @@ bool esUnoODos(const vb::Variant& v) {
     return d == 1 || d == 2;
 }
 
+// The depth counter is a 16-bit integer: one level more than it holds overflows, as VB's
+// integer arithmetic does.
+void bajaNivel(int16_t& nivel) {
+    if (nivel == kMaximoEntero) throw vb::RuntimeError(vb::err::kOverflow);
+    ++nivel;
+}
+
 }  // namespace
 
+// The levels being walked, innermost last: each one the object whose children are read, their
+// number, and the position read last. A vector on the heap instead of the call stack, so no
+// depth of the host's tree can exhaust the thread's stack.
 struct frmEspEnc::Recorrido {
+    struct Nivel {
+        int32_t id;
+        int32_t hijos;
+        int32_t posicion;
+    };
+    std::vector<Nivel> niveles;
     std::unordered_set<int32_t> visitados;
-    size_t profundidad = 0;
     int bajoMenosUno = 0;  // -1 stands for no object: repeated only as its own ancestor
 
+    // A host answer that repeats an object already walked (an ancestor: a cycle; or a subtree
+    // met before) is not walked again below it, so no answer can make the walk endless.
     bool yaRecorrido(int32_t id) const {
         return id == -1 ? bajoMenosUno > 0 : visitados.count(id) > 0;
     }
 };
 
+// The recursive walk of recorreHijos, written as a loop over an explicit stack: a level's
+// children are counted when the level is entered, each child is classified and, while the
+// shared flag says it has children, walked at once (depth first); a finished level lowers the
+// depth counter when the flag is false at that moment.
 void frmEspEnc::recorreHijos(int32_t id, bool& tieneHijos, std::array<int16_t, 5>& cuentas,
                              int16_t& nivel) {
     Recorrido recorrido;
-    recorreDesde(id, tieneHijos, cuentas, nivel, recorrido);
+    entraEn(id, recorrido);
+    while (!recorrido.niveles.empty()) {
+        if (!siguienteHijo(tieneHijos, cuentas, nivel, recorrido)) {
+            if (!tieneHijos && nivel > 0) --nivel;
+            if (recorrido.niveles.back().id == -1) --recorrido.bajoMenosUno;
+            recorrido.niveles.pop_back();
+        }
+    }
 }
 
-void frmEspEnc::recorreDesde(int32_t id, bool& tieneHijos, std::array<int16_t, 5>& cuentas,
-                             int16_t& nivel, Recorrido& recorrido) {
-    auto& scene = use(mv_.miScene);
+void frmEspEnc::entraEn(int32_t id, Recorrido& recorrido) {
     recorrido.visitados.insert(id);
-    ++recorrido.profundidad;
     if (id == -1) ++recorrido.bajoMenosUno;
-    int32_t n = vb::CLng(scene.ObjectGetChildrenNb(mv_.miSessionId, id, 0));
-    for (int32_t i = 1; i <= n; ++i) {
-        int32_t child = vb::CLng(scene.ObjectGetChildId(mv_.miSessionId, id, i, 0));
-        if (child != -1) clasificaHijo(child, tieneHijos, cuentas, nivel);
-        if (!tieneHijos) continue;
-        // A host answer that repeats an object already walked (an ancestor: a cycle) is not
-        // walked again below it, so no answer can make the walk endless or too deep.
-        if (recorrido.yaRecorrido(child) || recorrido.profundidad >= kProfundidadMaxima) continue;
-        if (nivel < kMaximoEntero) ++nivel;
-        recorreDesde(child, tieneHijos, cuentas, nivel, recorrido);
-    }
-    if (!tieneHijos && nivel > 0) --nivel;
-    --recorrido.profundidad;
-    if (id == -1) --recorrido.bajoMenosUno;
+    int32_t n = vb::CLng(use(mv_.miScene).ObjectGetChildrenNb(mv_.miSessionId, id, 0));
+    recorrido.niveles.push_back({id, n, 0});
+}
+
+// Reads and classifies the next child of the innermost level, entering it when it has children;
+// false when the level has no child left.
+bool frmEspEnc::siguienteHijo(bool& tieneHijos, std::array<int16_t, 5>& cuentas, int16_t& nivel,
+                              Recorrido& recorrido) {
+    auto& actual = recorrido.niveles.back();
+    if (actual.posicion >= actual.hijos) return false;
+    int32_t padre = actual.id, posicion = ++actual.posicion;
+    int32_t child =
+        vb::CLng(use(mv_.miScene).ObjectGetChildId(mv_.miSessionId, padre, posicion, 0));
+    if (child != -1) clasificaHijo(child, tieneHijos, cuentas, nivel);
+    if (!tieneHijos || recorrido.yaRecorrido(child)) return true;
+    bajaNivel(nivel);
+    entraEn(child, recorrido);
+    return true;
 }
 
 void frmEspEnc::clasificaHijo(int32_t child, bool& tieneHijos, std::array<int16_t, 5>& cuentas,
@@ -83,9 +112,9 @@ void frmEspEnc::clasificaHijo(int32_t child, bool& tieneHijos, std::array<int16_
     auto& scene = use(mv_.miScene);
     int32_t& sid = mv_.miSessionId;
     String code = CStr(scene.ObjectGetInfo(sid, child, 4));
-    bool fitL = bandera(scene.ObjectGetInfo(sid, child, 15));
-    bool fitP = bandera(scene.ObjectGetInfo(sid, child, 16));
-    bool fitH = bandera(scene.ObjectGetInfo(sid, child, 17));
+    bool fitL = vb::CBool(scene.ObjectGetInfo(sid, child, 15));
+    bool fitP = vb::CBool(scene.ObjectGetInfo(sid, child, 16));
+    bool fitH = vb::CBool(scene.ObjectGetInfo(sid, child, 17));
     String script = CStr(scene.ObjectGetScript(sid, child));
     bool fits =
         limitesScript(script, fitL, fitH, fitP, mv_.medidaAncho, mv_.medidaAlto, mv_.medidaFondo);

@@ -146,6 +146,8 @@ void disenaDiagonales(frmEspEnc& f) {
 
 frmEspEnc::frmEspEnc(env::Env& env) : env_(env), mv_(rules::modVariables()) {
     diseno();
+    panel_.valorDiseno = EtiqValorEnc[0];
+    panel_.cajaDiseno = TxtValoresEnc[0];
 }
 
 void frmEspEnc::diseno() {

@@ -1,4 +1,4 @@
-// Pillar recesses (the title and value rows of the scrolling panel) and the diagonal cut.
+// Pillar recesses (enabling the value rows of the scrolling panel) and the diagonal cut.
 #include "dialog/Teclado.h"
 #include "dialog/frmEspEnc.h"
 #include "vb/Conversions.h"
@@ -12,17 +12,6 @@ using vb::CStr;
 namespace {
 
 const String kCrLf = u"\r\n";
-
-// A new element of a control array: a copy of element 0, hidden until the program shows it.
-template <typename T>
-T& nuevoElemento(std::vector<T>& arreglo, size_t indice) {
-    while (arreglo.size() <= indice) {
-        T copia = arreglo[0];
-        copia.Visible = false;
-        arreglo.push_back(copia);
-    }
-    return arreglo[indice];
-}
 
 // The row indices a title's Tag names ("3-4-5"); pieces that name no row are left out.
 std::vector<size_t> filasDeTag(const String& tag, size_t numFilas) {
@@ -39,62 +28,6 @@ std::vector<size_t> filasDeTag(const String& tag, size_t numFilas) {
 }
 
 }  // namespace
-
-void frmEspEnc::creaFilasEncastre(const String& texto, int16_t i, const String& script) {
-    if (i < 0) return;
-    if (i == 0) {
-        altoContenido = static_cast<int16_t>(EtiqValorEnc[0].Top);
-    } else {
-        Label& nuevo = nuevoElemento(EtiqTituloEnc, i);
-        nuevo.Tag.clear();
-        if (!cabeEnPanel(nuevo.Height)) return;
-        nuevo.Top = altoContenido;
-        sumaAlto(nuevo.Height);
-        picin.Height = altoContenido;
-        sizing();
-    }
-    Label& titulo = EtiqTituloEnc[i];
-    titulo.Visible = true;
-    titulo.Caption = texto;
-    if (static_cast<size_t>(i) >= encastres.size() ||
-        vb::equalText(encastres[i].titulo, kNoDisponible))
-        return;
-    creaFilasDe(i, script);
-}
-
-// The value rows of recess i, one per parameter spec of its record.
-void frmEspEnc::creaFilasDe(int16_t i, const String& script) {
-    const std::vector<String> datos = encastres[i].datos;
-    for (size_t e = 0; e < datos.size(); ++e) {
-        if (e == 0) {
-            EtiqTituloEnc[i].Tag.clear();
-            continue;
-        }
-        if (datos[e].empty()) continue;
-        int16_t r = filasEncastre;
-        if (!cabeEnPanel(TxtValoresEnc[0].Height)) break;
-        if (r > 0) {
-            Label& etiqueta = nuevoElemento(EtiqValorEnc, r);
-            TextBox& caja = nuevoElemento(TxtValoresEnc, r);
-            etiqueta.Top = caja.Top = altoContenido;
-            caja.TabIndex = TxtValoresEnc[0].TabIndex + r;
-        }
-        EtiqValorEnc[r].Caption = etiquetaParametro(datos[e]);
-        EtiqValorEnc[r].Visible = TxtValoresEnc[r].Visible = true;
-        String rango = rangoParametro(datos[e], script);
-        TxtValoresEnc[r].Text = rango;
-        TxtValoresEnc[r].Tag = rango;  // the row's maximum
-        sumaAlto(TxtValoresEnc[r].Height);
-        EtiqTituloEnc[i].Tag += vb::numberText(r) + u"-";
-        filasEncastre = r + 1;
-        picin.Height = altoContenido;
-        sizing();
-    }
-    String& tag = EtiqTituloEnc[i].Tag;
-    if (!tag.empty() && tag.back() == u'-') tag.pop_back();
-    sumaAlto(100);
-    sizing();
-}
 
 void frmEspEnc::habilitaFilasEncastre(int16_t i, bool enabled) {
     if (i < 0 || static_cast<size_t>(i) >= EtiqTituloEnc.size()) return;

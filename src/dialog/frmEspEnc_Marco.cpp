@@ -1,6 +1,7 @@
 // The frame: loading in its fixed order, caption translation, the recess panel's scrolling,
 // press feedback and the write-back at unload.
 #include "dialog/Registro.h"
+#include "dialog/TextoCajeos.h"
 #include "dialog/frmEspEnc.h"
 #include "handlers/Catalogo.h"
 #include "rules/Refresco.h"
@@ -14,8 +15,6 @@ using vb::CLng;
 using vb::CStr;
 
 namespace {
-
-constexpr int32_t kAltoMaximo = 32767;  // the content height is a 16-bit integer
 
 String celdaTabla2(rules::ModVariables& mv, const String& codigo) {
     int32_t rango =
@@ -38,6 +37,7 @@ void frmEspEnc::Form_Load() {
     nivelArbol = 0;
     bool tieneHijos = false;
     recorreHijos(-2, tieneHijos, numListas, nivelArbol);
+    completaPanel();
     if (altoContenido < picout.Height) {
         altoContenido = static_cast<int16_t>(picout.Height);
         picin.Height = altoContenido;
@@ -61,8 +61,7 @@ void frmEspEnc::leeObjeto() {
     auto& catalog = use(mv_.miCatalog);
     int32_t& sid = mv_.miSessionId;
     textoCajeos = CStr(scene.ObjectGetInfo(sid, -2, 53));
-    mv_.docCajeos = plataforma().createXmlDocument();
-    mv_.docCajeos->loadXML(textoCajeos);
+    mv_.docCajeos = cargaCajeos(plataforma(), textoCajeos);
     rules::iniciaPrefijosEsp();
     medidasActuales = {mv_.medidaAncho, mv_.medidaAlto, mv_.medidaFondo, u""};
     String nombre = CStr(scene.ObjectGetInfo(sid, -2, 7));
@@ -147,23 +146,6 @@ void frmEspEnc::barraScrolEnc_Change() {
 void frmEspEnc::sizing() {
     barraScrolEnc.Max = picin.Height - picout.Height;
     barraScrolEnc.Visible = picout.Height < picin.Height;
-}
-
-bool frmEspEnc::cabeEnPanel(int32_t incremento) {
-    if (panelLleno_) return false;
-    if (static_cast<int32_t>(altoContenido) + incremento <= kAltoMaximo) return true;
-    panelLleno_ = true;
-    mensaje(
-        u"Hay demasiados encastres de pilar: los siguientes no caben en el panel y se "
-        u"muestran sin sus valores.",
-        kCaptionAtencion, platform::MsgIcon::Information);
-    return false;
-}
-
-bool frmEspEnc::sumaAlto(int32_t incremento) {
-    if (!cabeEnPanel(incremento)) return false;
-    altoContenido = static_cast<int16_t>(altoContenido + incremento);
-    return true;
 }
 
 void frmEspEnc::mensaje(const String& texto, const String& titulo, platform::MsgIcon icono) {

@@ -3,7 +3,6 @@
 #include <array>
 #include <vector>
 
-#include "dialog/Lectura.h"
 #include "dialog/Teclado.h"
 #include "dialog/frmEspEnc.h"
 #include "rules/Refresco.h"
@@ -99,9 +98,9 @@ void frmEspEnc::seleccionInicial() {
 
 void frmEspEnc::ocultaTiposFijos() {
     auto& scene = use(mv_.miScene);
-    bool b15 = bandera(scene.ObjectGetInfo(mv_.miSessionId, -2, 15));
-    bool b16 = bandera(scene.ObjectGetInfo(mv_.miSessionId, -2, 16));
-    bool b17 = bandera(scene.ObjectGetInfo(mv_.miSessionId, -2, 17));
+    bool b15 = vb::CBool(scene.ObjectGetInfo(mv_.miSessionId, -2, 15));
+    bool b16 = vb::CBool(scene.ObjectGetInfo(mv_.miSessionId, -2, 16));
+    bool b17 = vb::CBool(scene.ObjectGetInfo(mv_.miSessionId, -2, 17));
     // Whether each measure (width, height, depth) can vary.
     const std::array<bool, 3> variable{b15, b17, b16};
     for (int k = 0; k < mv_.numTiposEsp && k < 7; ++k) {

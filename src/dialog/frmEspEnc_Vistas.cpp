@@ -62,7 +62,8 @@ bool frmEspEnc::cargaDatosEncastre(int32_t child, int16_t n) {
     } else {
         registro.titulo = kNoDisponible;
     }
-    sumaAlto(100);
+    // The 100 twips this record adds to altoContenido are added when the recess is placed in
+    // the panel (colocaEncastre), just before its title.
     sizing();
     return true;
 }

@@ -100,7 +100,10 @@ void Scene::visit(int32_t id, std::vector<int32_t>& out) const {
 
 CatalogData& World::addCatalog(const String& path, String language) {
     auto& slot = catalogs_[catalogKey(path)];
-    if (!slot) slot = std::make_unique<CatalogData>();
+    if (!slot) {
+        slot = std::make_unique<CatalogData>();
+        order_.push_back(slot.get());
+    }
     slot->path = path;
     slot->language = std::move(language);
     if (!files.fileExists(path) && !files.folderExists(path))

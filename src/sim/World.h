@@ -92,9 +92,11 @@ class World {
     // The catalogue's path also becomes a file of size 1024 unless a file is already there.
     CatalogData& addCatalog(const String& path, String language = u"");
     const CatalogData* catalog(const String& path) const;  // paths compare without case
+    const std::vector<const CatalogData*>& catalogs() const { return order_; }  // as added
 
   private:
     std::unordered_map<String, std::unique_ptr<CatalogData>> catalogs_;
+    std::vector<const CatalogData*> order_;
 };
 
 }  // namespace sim

@@ -127,13 +127,16 @@ int16_t CInt(const Variant& v) {
     return toInteger<int16_t>(CDbl(v));
 }
 
+// Text: the words True and False in any case, exactly as they stand (no blanks around), and
+// VB's literals #TRUE# and #FALSE#; otherwise the text must be a number, or it is a type
+// mismatch (the empty text included).
 bool CBool(const Variant& v) {
     rejectNull(v);
     if (v.type() == VarType::Boolean) return v.boolean();
     if (v.type() == VarType::String) {
-        const String t = Trim(v.str());
-        if (equalText(t, u"True")) return true;
-        if (equalText(t, u"False")) return false;
+        const String& t = v.str();
+        if (equalText(t, u"True") || t == u"#TRUE#") return true;
+        if (equalText(t, u"False") || t == u"#FALSE#") return false;
     }
     return CDbl(v) != 0;
 }

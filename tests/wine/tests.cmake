@@ -46,3 +46,21 @@ wine_test(wine.hostdriver_checks /usr/lib/wine/wine64 ${CMAKE_BINARY_DIR}/hostdr
 wine_test(wine.dialog_view env QUORBEL_WINE_TEMPLATE=${WINE_SUITE}/template
           ${WINE_TESTS}/dialog-view ${CMAKE_BINARY_DIR}/dialog-view-check.exe)
 set_tests_properties(wine.dialog_view PROPERTIES TIMEOUT 300)
+
+# The version the build carries (read back from both DLLs) and the installer packages: the x64
+# one installed, used, upgraded and removed in a prefix of its own; the x86 one's tables.
+set(QUORBEL_WIN32_BUILD ${CMAKE_SOURCE_DIR}/build/win32
+    CACHE PATH "The win32 build, whose DLL and package the Wine suite checks too")
+add_executable(version-check ${WINE_TESTS}/version/VersionCheck.cpp)
+target_link_libraries(version-check PRIVATE -static-libgcc -static-libstdc++ -lversion -loleaut32
+                      -lole32)
+set_target_properties(version-check PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
+wine_test(wine.version_resource ${WINE_TESTS}/version-resource ${CMAKE_BINARY_DIR}/version-check.exe
+          ${PROJECT_VERSION} ${CMAKE_BINARY_DIR}/Quorbel.dll ${QUORBEL_WIN32_BUILD}/Quorbel.dll)
+wine_test(wine.msi_install env QUORBEL_WINE_TEMPLATE=${WINE_SUITE}/template
+          ${WINE_TESTS}/msi-install ${CMAKE_BINARY_DIR} ${PROJECT_VERSION} ${QUORBEL_TYPELIB_KEY})
+set_tests_properties(wine.msi_install PROPERTIES TIMEOUT 300)
+add_test(NAME wine.msi_x86_tables COMMAND ${WINE_TESTS}/msi-tables
+         ${QUORBEL_WIN32_BUILD}/Quorbel-${PROJECT_VERSION}-x86.msi
+         ${CMAKE_BINARY_DIR}/Quorbel-${PROJECT_VERSION}-x64.msi ${PROJECT_VERSION})
+set_tests_properties(wine.msi_x86_tables PROPERTIES LABELS wine)

@@ -1,13 +1,6 @@
 #include "com/ComPlugin.h"
 
-#include "com/ComArgs.h"
-
 namespace quorbel {
-
-HRESULT ComPlugin::event(Handler h, long block, VARIANT_BOOL* result) {
-    if (!result) return E_POINTER;
-    return entry([&] { *result = asBool((plugin_.*h)(block)); });
-}
 
 STDMETHODIMP ComPlugin::construyeMensaje(VARIANT_BOOL* valAncho, VARIANT_BOOL* valAlto,
                                          VARIANT_BOOL* valFondo, short* tipoFuncion,
@@ -15,7 +8,7 @@ STDMETHODIMP ComPlugin::construyeMensaje(VARIANT_BOOL* valAncho, VARIANT_BOOL* v
     if (anyNull({valAncho, valAlto, valFondo, tipoFuncion, result})) return E_POINTER;
     return entry([&] {
         RefBool a(valAncho), h(valAlto), f(valFondo);
-        toVariant(plugin_.construyeMensaje(a.value, h.value, f.value, *tipoFuncion), result);
+        toVariant(core_.construyeMensaje(a.value, h.value, f.value, *tipoFuncion), result);
     });
 }
 
@@ -26,8 +19,8 @@ STDMETHODIMP ComPlugin::procesaDimension(long* dimension, BSTR* x1, BSTR* x2, BS
     return entry([&] {
         RefStr a(x1), b(x2), c(y1), d(y2), e(z1), f(z2), r(ref), m(model);
         *result =
-            asBool(plugin_.procesaDimension(asLong(dimension), a.value, b.value, c.value, d.value,
-                                            e.value, f.value, r.value, m.value, asLong(idPas)));
+            asBool(core_.procesaDimension(asLong(dimension), a.value, b.value, c.value, d.value,
+                                          e.value, f.value, r.value, m.value, asLong(idPas)));
     });
 }
 
@@ -37,7 +30,7 @@ STDMETHODIMP ComPlugin::procesaObjeto(BSTR* elAncho, BSTR* elAlto, BSTR* elFondo
     return entry([&] {
         RefStr a(elAncho), h(elAlto), f(elFondo), c(concatenar);
         *result = asBool(
-            plugin_.procesaObjeto(a.value, h.value, f.value, asLong(elId), c.value, *laFuncion));
+            core_.procesaObjeto(a.value, h.value, f.value, asLong(elId), c.value, *laFuncion));
     });
 }
 
@@ -47,20 +40,11 @@ STDMETHODIMP ComPlugin::OnObjectComponentsB(long b, VARIANT_BOOL* r) {
 STDMETHODIMP ComPlugin::OnObjectAttributsDlgValidation(long b, VARIANT_BOOL* r) {
     return event(&handlers::Plugin::OnObjectAttributsDlgValidation, b, r);
 }
-STDMETHODIMP ComPlugin::OnObjectPlaceAfter(long b, VARIANT_BOOL* r) {
-    return event(&handlers::Plugin::OnObjectPlaceAfter, b, r);
-}
 STDMETHODIMP ComPlugin::OnObjectFinishesAfter(long b, VARIANT_BOOL* r) {
     return event(&handlers::Plugin::OnObjectFinishesAfter, b, r);
 }
 STDMETHODIMP ComPlugin::OnSceneGenericFinishesAfter(long b, VARIANT_BOOL* r) {
     return event(&handlers::Plugin::OnSceneGenericFinishesAfter, b, r);
-}
-STDMETHODIMP ComPlugin::OnObjectComponentsBefore(long b, VARIANT_BOOL* r) {
-    return event(&handlers::Plugin::OnObjectComponentsBefore, b, r);
-}
-STDMETHODIMP ComPlugin::ObjectWizard(long b, VARIANT_BOOL* r) {
-    return event(&handlers::Plugin::ObjectWizard, b, r);
 }
 STDMETHODIMP ComPlugin::OnAppStartAfter(long b, VARIANT_BOOL* r) {
     return event(&handlers::Plugin::OnAppStartAfter, b, r);
@@ -69,69 +53,20 @@ STDMETHODIMP ComPlugin::SceneCheck(long b, VARIANT_BOOL* r) {
     return event(&handlers::Plugin::SceneCheck, b, r);
 }
 
-STDMETHODIMP ComPlugin::InicEsp() {
-    return entry([&] { plugin_.InicEsp(); });
-}
-STDMETHODIMP ComPlugin::InicEspMod2() {
-    return entry([&] { plugin_.InicEspMod2(); });
-}
-
-STDMETHODIMP ComPlugin::InicEspMod(long* miSessionId, IDispatch** miCatalog) {
-    if (anyNull({miSessionId, miCatalog})) return E_POINTER;
-    return entry([&] {
-        RefCatalog c(miCatalog);
-        plugin_.InicEspMod(asLong(miSessionId), c.value);
-    });
-}
-
 STDMETHODIMP ComPlugin::InicEspMod3(long* miSessionId, IDispatch** miCatalog) {
-    if (anyNull({miSessionId, miCatalog})) return E_POINTER;
-    return entry([&] {
-        RefCatalog c(miCatalog);
-        plugin_.InicEspMod3(asLong(miSessionId), c.value);
-    });
-}
-
-STDMETHODIMP ComPlugin::GenModEsp(long* miSessionId, IDispatch** miAppli, IDispatch** miScene,
-                                  IDispatch** miCatalog) {
-    if (anyNull({miSessionId, miAppli, miScene, miCatalog})) return E_POINTER;
-    return entry([&] {
-        RefAppli a(miAppli);
-        RefScene s(miScene);
-        RefCatalog c(miCatalog);
-        plugin_.GenModEsp(asLong(miSessionId), a.value, s.value, c.value);
-    });
-}
-
-STDMETHODIMP ComPlugin::GenExcepciones(long* miSessionId, IDispatch** miAppli, IDispatch** miScene,
-                                       IDispatch** miCatalog) {
-    if (anyNull({miSessionId, miAppli, miScene, miCatalog})) return E_POINTER;
-    return entry([&] {
-        RefAppli a(miAppli);
-        RefScene s(miScene);
-        RefCatalog c(miCatalog);
-        plugin_.GenExcepciones(asLong(miSessionId), a.value, s.value, c.value);
-    });
-}
-
-STDMETHODIMP ComPlugin::modeloValido(BSTR* refer, BSTR* code, BSTR* script, VARIANT_BOOL* result) {
-    if (anyNull({refer, code, script, result})) return E_POINTER;
-    return entry([&] {
-        RefStr r(refer), c(code), s(script);
-        *result = asBool(plugin_.modeloValido(r.value, c.value, s.value));
-    });
+    return withCatalog(&handlers::Plugin::InicEspMod3, miSessionId, miCatalog);
 }
 
 STDMETHODIMP ComPlugin::programaST(long* elId, VARIANT* result) {
     if (anyNull({elId, result})) return E_POINTER;
-    return entry([&] { toVariant(plugin_.programaST(asLong(elId)), result); });
+    return entry([&] { toVariant(core_.programaST(asLong(elId)), result); });
 }
 
 STDMETHODIMP ComPlugin::programaST2(BSTR* nombreModelo, VARIANT* result) {
     if (anyNull({nombreModelo, result})) return E_POINTER;
     return entry([&] {
         RefStr n(nombreModelo);
-        toVariant(plugin_.programaST2(n.value), result);
+        toVariant(core_.programaST2(n.value), result);
     });
 }
 

@@ -1,13 +1,12 @@
 #pragma once
 // The creatable class Plugin: the _Plugin interface over handlers::Plugin.
 #include "Quorbel_h.h"
-#include "com/DispatchObject.h"
-#include "com/Shell.h"
+#include "com/SharedEntries.h"
 #include "handlers/Plugin.h"
 
 namespace quorbel {
 
-class ComPlugin : public DispatchObject<_Plugin>, private Shell {
+class ComPlugin : public SharedEntries<_Plugin, handlers::Plugin> {
   public:
     STDMETHODIMP construyeMensaje(VARIANT_BOOL* valAncho, VARIANT_BOOL* valAlto,
                                   VARIANT_BOOL* valFondo, short* tipoFuncion,
@@ -19,29 +18,13 @@ class ComPlugin : public DispatchObject<_Plugin>, private Shell {
                                BSTR* concatenar, short* laFuncion, VARIANT_BOOL* result) override;
     STDMETHODIMP OnObjectComponentsB(long block, VARIANT_BOOL* result) override;
     STDMETHODIMP OnObjectAttributsDlgValidation(long block, VARIANT_BOOL* result) override;
-    STDMETHODIMP OnObjectPlaceAfter(long block, VARIANT_BOOL* result) override;
     STDMETHODIMP OnObjectFinishesAfter(long block, VARIANT_BOOL* result) override;
     STDMETHODIMP OnSceneGenericFinishesAfter(long block, VARIANT_BOOL* result) override;
-    STDMETHODIMP OnObjectComponentsBefore(long block, VARIANT_BOOL* result) override;
-    STDMETHODIMP InicEsp() override;
-    STDMETHODIMP InicEspMod(long* miSessionId, IDispatch** miCatalog) override;
-    STDMETHODIMP InicEspMod2() override;
     STDMETHODIMP InicEspMod3(long* miSessionId, IDispatch** miCatalog) override;
-    STDMETHODIMP GenModEsp(long* miSessionId, IDispatch** miAppli, IDispatch** miScene,
-                           IDispatch** miCatalog) override;
-    STDMETHODIMP GenExcepciones(long* miSessionId, IDispatch** miAppli, IDispatch** miScene,
-                                IDispatch** miCatalog) override;
-    STDMETHODIMP modeloValido(BSTR* refer, BSTR* code, BSTR* script, VARIANT_BOOL* result) override;
-    STDMETHODIMP ObjectWizard(long block, VARIANT_BOOL* result) override;
     STDMETHODIMP OnAppStartAfter(long block, VARIANT_BOOL* result) override;
     STDMETHODIMP SceneCheck(long block, VARIANT_BOOL* result) override;
     STDMETHODIMP programaST(long* elId, VARIANT* result) override;
     STDMETHODIMP programaST2(BSTR* nombreModelo, VARIANT* result) override;
-
-  private:
-    using Handler = bool (handlers::Plugin::*)(int32_t);
-    HRESULT event(Handler h, long block, VARIANT_BOOL* result);
-    handlers::Plugin plugin_{env_};
 };
 
 }  // namespace quorbel

@@ -5,6 +5,7 @@
 
 #include <string>
 
+#include "QuorbelVersion.h"
 #include "Quorbel_h.h"
 #include "com/Module.h"
 
@@ -18,6 +19,7 @@ struct ClassEntry {
 
 const ClassEntry kClasses[] = {{CLSID_Plugin, L"Quorbel.Plugin"},
                                {CLSID_Wizard, L"Quorbel.Wizard"}};
+const wchar_t kTypeLibVersion[] = L"" QUORBEL_TYPELIB_KEY;
 
 std::wstring guidText(REFGUID g) {
     wchar_t buf[64];
@@ -42,7 +44,8 @@ bool registerClass(const ClassEntry& c, const std::wstring& path) {
            setValue(key + L"\\InprocServer32", L"ThreadingModel", L"Apartment") &&
            setValue(key + L"\\ProgID", nullptr, c.progId) &&
            setValue(key + L"\\TypeLib", nullptr, guidText(LIBID_Quorbel)) &&
-           setValue(key + L"\\Version", nullptr, L"1.0") && setValue(c.progId, nullptr, c.progId) &&
+           setValue(key + L"\\Version", nullptr, kTypeLibVersion) &&
+           setValue(c.progId, nullptr, c.progId) &&
            setValue(std::wstring(c.progId) + L"\\CLSID", nullptr, clsid);
 }
 
@@ -74,7 +77,7 @@ HRESULT unregisterServer() {
         RegDeleteTreeW(HKEY_CLASSES_ROOT, (L"CLSID\\" + guidText(c.clsid)).c_str());
         RegDeleteTreeW(HKEY_CLASSES_ROOT, c.progId);
     }
-    UnRegisterTypeLib(LIBID_Quorbel, 1, 0, LOCALE_NEUTRAL,
+    UnRegisterTypeLib(LIBID_Quorbel, QUORBEL_VERSION_MAJOR, QUORBEL_VERSION_MINOR, LOCALE_NEUTRAL,
                       sizeof(void*) == 8 ? SYS_WIN64 : SYS_WIN32);
     return S_OK;
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "host/AutomationError.h"
 #include "vb/Errors.h"
 
 namespace quorbel {
@@ -129,24 +130,6 @@ vb::Variant fromVariant(const VARIANT& in) {
     return out;
 }
 
-// The VB error a late-bound call raises for a dispatch failure without error info.
-static int dispatchErrorNumber(HRESULT hr) {
-    switch (hr) {
-        case DISP_E_TYPEMISMATCH:
-            return vb::err::kTypeMismatch;
-        case DISP_E_OVERFLOW:
-            return vb::err::kOverflow;
-        case DISP_E_BADPARAMCOUNT:
-            return 450;  // Wrong number of arguments or invalid property assignment
-        case DISP_E_PARAMNOTOPTIONAL:
-            return 449;  // Argument not optional
-        case DISP_E_MEMBERNOTFOUND:
-            return vb::err::kNoSuchMember;
-        default:
-            return vb::err::kAutomation;
-    }
-}
-
 vb::Variant DispatchCaller::call(const wchar_t* member, std::vector<Arg>& args) {
     DISPID id = dispid(member);
     std::vector<VARIANT> reversed;  // IDispatch takes arguments last first
@@ -158,19 +141,7 @@ vb::Variant DispatchCaller::call(const wchar_t* member, std::vector<Arg>& args) 
     UINT argErr = 0;
     HRESULT hr = object_->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &params,
                                  &result, &excep, &argErr);
-    if (FAILED(hr)) {
-        if (excep.pfnDeferredFillIn) excep.pfnDeferredFillIn(&excep);
-        vb::String desc = fromBstr(excep.bstrDescription);
-        HRESULT code = excep.scode ? excep.scode : hr;
-        SysFreeString(excep.bstrSource);
-        SysFreeString(excep.bstrDescription);
-        SysFreeString(excep.bstrHelpFile);
-        int number = HRESULT_FACILITY(code) == FACILITY_CONTROL ? HRESULT_CODE(code)
-                                                                : dispatchErrorNumber(code);
-        if (excep.wCode) number = excep.wCode;
-        if (desc.empty()) desc = vb::standardDescription(number);
-        throw vb::RuntimeError(number, desc);
-    }
+    if (FAILED(hr)) throw automationError(hr, excep);
     vb::Variant out = fromVariant(result);
     VariantClear(&result);
     return out;

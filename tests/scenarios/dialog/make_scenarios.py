@@ -5,6 +5,7 @@ by reading before they are committed."""
 import copy
 import json
 import os
+import sys
 
 HERE = os.path.dirname(os.path.abspath(__file__))
 
@@ -55,7 +56,8 @@ def catalogue():
 
 
 def comp(oid, code, text, chosen="0", listed="1", **more):
-    info = {"4": code, "5": text, "58": listed, "59": chosen}
+    # 15, 16, 17: no limit checks (the flags are read as booleans, so every component has them)
+    info = {"4": code, "5": text, "15": "0", "16": "0", "17": "0", "58": listed, "59": chosen}
     info.update(more.pop("info", {}))
     o = {"id": oid, "info": info}
     o.update(more)
@@ -203,7 +205,11 @@ SCENARIOS = {
     # Many recesses: the panel scrolls.
     "recess_panel_scrolls": [call([{"do": "scroll", "value": 900}, SNAP,
                                    {"do": "scroll", "value": 100000}, SNAP, EXIT])],
-    # Hundreds of components and recesses load; rows stop where the panel height ends.
+    # 62 recesses of two values each overflow the 16-bit panel: every title is shown, the
+    # last recesses without their values, and the message says from which one.
+    "recess_panel_full": [call([SNAP, lclick(4, 21), typed("TxtValoresEnc", 42, "\b\b\b100"),
+                                lclick(4, 61), ACCEPT])],
+    # Hundreds of components and recesses load; titles come first where the panel height ends.
     "hundreds_of_components": [call([lclick(4, 0), lclick(4, 119), lclick(3, 250), ACCEPT])],
     # Picture names that would leave the temporary folder or name a device are not exported.
     "picture_names": [call([lclick(4, 0), lclick(4, 2), SNAP, EXIT])],
@@ -218,7 +224,32 @@ SCENARIOS = {
     # Two recess values left empty: the missing-value text is looked up at each of them.
     "recess_values_missing": [call([lclick(4, 0), typed("TxtValoresEnc", 0, "\b"),
                                     typed("TxtValoresEnc", 1, "\b"), ACCEPT, EXIT])],
+    # Labels and a title with "&" and "<", copied into the cut-out document as they are: the
+    # value above its maximum is refused, the corrected ones are stored and annotated, and
+    # they come back on reopening.
+    "cut_out_texts": [
+        call([lclick(4, 0), typed("TxtValoresEnc", 0, "\b\b\b900"), ACCEPT,
+              typed("TxtValoresEnc", 0, "\b\b\b120"), typed("TxtValoresEnc", 1, "\b\b\b80"),
+              lclick(4, 1), typed("TxtValoresEnc", 2, "\b\b\b30"), ACCEPT]),
+        call([SNAP, EXIT])],
+    # Flags 15, 16, 17 that are no booleans: on the object, then on a component (the error
+    # trap, no dialog); then texts VB does read as booleans.
+    "flags_not_boolean": [call([], obj=100), call([], obj=200), call([SNAP, EXIT], obj=300)],
+    # A component 2,000 levels down is classified, listed with the last prefix and chosen.
+    "deep_component": [call([SNAP, lclick(3, 1), ACCEPT])],
 }
+
+DEEP_LEVELS = 2000
+COMPACT = {"deep_component"}  # indented, its nesting alone would take megabytes
+
+
+def deep_chain(levels):
+    """A chain of unlisted components (no code) ending, `levels` down, in a listed "Otros"."""
+    node = comp(3000 + levels, "O_FONDO", "Pieza al fondo")
+    for level in range(levels - 1, 0, -1):
+        node = {"id": 3000 + level, "info": {"15": "0", "16": "0", "17": "0"},
+                "children": [node]}
+    return node
 
 
 def recess_cabinet(count, params, others=0):
@@ -237,6 +268,8 @@ def recess_cabinet(count, params, others=0):
 def scene_for(name):
     if name == "recess_panel_scrolls":
         return [recess_cabinet(6, 3)]
+    if name == "recess_panel_full":
+        return [recess_cabinet(62, 2)]
     if name == "hundreds_of_components":
         return [recess_cabinet(120, 1, 300)]
     if name == "picture_names":
@@ -261,6 +294,24 @@ def scene_for(name):
         return [cabinet(400, file_name="perdido")]
     if name == "limits_after_a_failure":
         return [cabinet(width="650", height="750", depth="600")]
+    if name == "cut_out_texts":
+        c = cabinet()
+        c["children"][-2]["info"]["5"] = "Pilar <dcho.> & Cía"
+        c["children"][-2]["script"] = "/// PILAR1 ENC3(MIN=10,MAX=@P)"
+        return [c]
+    if name == "flags_not_boolean":
+        on_object = cabinet(100)
+        on_object["info"]["17"] = "sí"
+        on_component = cabinet(200)
+        on_component["children"][7]["info"]["16"] = ""
+        read_as_vb = cabinet(300)
+        read_as_vb["info"].update({"15": "True", "16": "0", "17": " 1 "})
+        read_as_vb["children"][7]["info"].update({"15": "tRUE", "16": "#FALSE#", "17": "-2.5"})
+        return [on_object, on_component, read_as_vb]
+    if name == "deep_component":
+        c = cabinet()
+        c["children"].append(deep_chain(DEEP_LEVELS))
+        return [c]
     return [cabinet()]
 
 
@@ -287,6 +338,12 @@ def catalogues_for(name):
         return {"C:\\Cat\\cocina.cat": offered_catalogue()}
     if name == "wizard_catalogues":
         return {"C:\\Cat\\cocina.cat": catalogue(), "C:\\Cat\\forma10.cat": catalogue()}
+    if name == "cut_out_texts":
+        cat = catalogue()
+        for line in cat["tables"]["2"]:
+            if line["code"] in ("ENC1", "ENC2"):
+                line["cols"]["9"] = {"ENC1": "Prof. & alto", "ENC2": "A<B"}[line["code"]]
+        return {"C:\\Cat\\cocina.cat": cat}
     if name == "captions_missing_keys":
         cat = catalogue()
         missing = {"TR_0002", "TR_0027", "TR_0024"}
@@ -306,8 +363,25 @@ DEMO = [
 ]
 DEMO_FILE = os.path.join(HERE, "..", "..", "..", "samples", "dialog", "12_dialogo_especiales.json")
 
+# The demo's catalogue also carries the placement messages, so that it is a complete
+# catalogue (quorbel-sim lint finds none missing).
+PLACEMENT_TEXTS = {
+    "TR_9014": "Las medidas modificadas no están permitidas para este modelo de puerta.",
+    "TR_9015": "La medida modificada no está permitida para este modelo de puerta.",
+    "TR_9016": "Se ha restaurado la medida de catálogo.",
+    "TR_9017": "Muebles con medidas no permitidas:",
+    "TR_9021": "Modelo del programa ST: consulte los plazos de entrega.",
+}
+
+
+def demo_catalogue():
+    cat = catalogue()
+    cat["tables"]["2"] += [{"code": k, "cols": {"9": v}} for k, v in PLACEMENT_TEXTS.items()]
+    return {"C:\\Cat\\cocina.cat": cat}
+
 
 def main():
+    sys.setrecursionlimit(10 * DEEP_LEVELS)  # the encoder recurses once per nesting level
     for name, calls in SCENARIOS.items():
         data = world(scene_for(name), calls, catalogues_for(name))
         if name in ("captions_translated", "captions_missing_keys"):
@@ -317,10 +391,13 @@ def main():
             data["application"]["language"] = "esp"
             data["application"]["dictionary"] = {"esp": {"Atención": "ATENCION"}}
         with open(os.path.join(HERE, name + ".json"), "w", encoding="utf-8") as f:
-            json.dump(data, f, ensure_ascii=False, indent=1)
+            if name in COMPACT:
+                json.dump(data, f, ensure_ascii=False, separators=(",", ":"))
+            else:
+                json.dump(data, f, ensure_ascii=False, indent=1)
             f.write("\n")
     with open(DEMO_FILE, "w", encoding="utf-8") as f:
-        json.dump(world([cabinet()], DEMO), f, ensure_ascii=False, indent=1)
+        json.dump(world([cabinet()], DEMO, demo_catalogue()), f, ensure_ascii=False, indent=1)
         f.write("\n")
 
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "FakeDialogo.h"
+#include "vb/Errors.h"
 
 namespace {
 
@@ -12,6 +13,7 @@ fakedlg::Objeto componente(const char16_t* code, const char16_t* text,
     o.info[4] = code;
     o.info[5] = text;
     o.info[58] = u"1";
+    for (int32_t flag : {15, 16, 17}) o.info[flag] = u"0";
     o.hijos = std::move(hijos);
     return o;
 }
@@ -50,20 +52,69 @@ TEST(RecorreHijos, AHostAnswerThatRepeatsAnAncestorIsNotWalkedAgain) {
     EXPECT_EQ(f.listComponentes[3].entries.size(), 4u);  // each listed once more, no deeper
 }
 
-TEST(RecorreHijos, SharedSubtreesAndDeepChainsStayBounded) {
+TEST(RecorreHijos, SharedSubtreesAreWalkedOnce) {
     fakedlg::Banco banco;
     auto& m = banco.mundo.objetos;
     // Every level names the next one twice: walked once per object, not 2^n times.
     m[-2].hijos = {1};
     for (int32_t id = 1; id <= 40; ++id) m[id] = componente(u"O_x", u"x", {id + 1, id + 1});
     m[41] = componente(u"O_x", u"x");
-    // A chain far deeper than any cabinet.
-    m[-2].hijos.push_back(1000);
-    for (int32_t id = 1000; id < 6000; ++id) m[id] = componente(u"Z", u"z", {id + 1});
     bool tieneHijos = false;
     auto& f = banco.f();
     f.recorreHijos(-2, tieneHijos, f.numListas, f.nivelArbol);
     EXPECT_EQ(f.listComponentes[3].entries.size(), 81u);  // 1 + 2 per level below
+}
+
+// A chain of `niveles` components below the edited object, ids 1.. down; only the last one is
+// listed ("Otros").
+fakedlg::Banco& cadena(fakedlg::Banco& banco, int32_t niveles) {
+    auto& m = banco.mundo.objetos;
+    m[-2].hijos = {1};
+    for (int32_t id = 1; id < niveles; ++id) m[id] = componente(u"Z", u"z", {id + 1});
+    m[niveles] = componente(u"O_FONDO", u"Al fondo");
+    return banco;
+}
+
+TEST(RecorreHijos, AChainDeeperThanAnyStackIsWalkedToItsEnd) {
+    fakedlg::Banco banco;
+    auto& f = cadena(banco, 30000).f();
+    bool tieneHijos = false;
+    f.recorreHijos(-2, tieneHijos, f.numListas, f.nivelArbol);
+    ASSERT_EQ(f.listComponentes[3].entries.size(), 1u);
+    EXPECT_EQ(f.listComponentes[3].entries[0].text, u"        ==>Al fondo");  // the last prefix
+    EXPECT_EQ(f.idsListas[3][0], 30000);
+    EXPECT_EQ(f.nivelArbol, 0);  // the flag stays false: every finished level goes back up
+}
+
+TEST(RecorreHijos, TheSixteenBitDepthCounterOverflowsAsVbDoes) {
+    fakedlg::Banco banco;
+    auto& f = cadena(banco, 32769).f();
+    bool tieneHijos = false;
+    try {
+        f.recorreHijos(-2, tieneHijos, f.numListas, f.nivelArbol);
+        FAIL() << "no error";
+    } catch (const vb::RuntimeError& e) {
+        EXPECT_EQ(e.number(), 6);
+    }
+    EXPECT_EQ(f.nivelArbol, 32767);
+}
+
+TEST(ClasificaHijo, FlagsThatAreNotBooleansAreATypeMismatch) {
+    for (const char16_t* flag : {u"", u"s\u00ED", u" 1x"}) {
+        fakedlg::Banco banco;
+        auto& m = banco.mundo.objetos;
+        m[-2].hijos = {1};
+        m[1] = componente(u"CS_1", u"Lado");
+        m[1].info[16] = flag;
+        auto& f = banco.f();
+        bool tieneHijos = false;
+        try {
+            f.recorreHijos(-2, tieneHijos, f.numListas, f.nivelArbol);
+            ADD_FAILURE() << "no error";
+        } catch (const vb::RuntimeError& e) {
+            EXPECT_EQ(e.number(), 13);
+        }
+    }
 }
 
 }  // namespace

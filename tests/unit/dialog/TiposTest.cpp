@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "FakeDialogo.h"
+#include "vb/Errors.h"
 
 namespace {
 
@@ -123,6 +124,38 @@ TEST(SeleccionInicial, PicksTheTypesOfTheChangedMeasures) {
         SCOPED_TRACE("markers " + c.markers);
         EXPECT_EQ(seleccionados(f), c.selected);
         for (int m = 0; m < 3; ++m) EXPECT_EQ(f.TextMedEsp[m].Enabled, c.distinto[m]);
+    }
+}
+
+// The object's flags 15 (width), 16 (depth), 17 (height) read as VB reads booleans: a type
+// whose dimensions are not all variable is hidden; a flag that is no boolean raises 13.
+TEST(OcultaTiposFijos, HidesByTheObjectsFlagsAndRefusesOtherTexts) {
+    struct {
+        const char16_t *b15, *b16, *b17;
+        std::string visible;  // types left visible, as digits; "!" for a type mismatch
+    } const cases[] = {
+        {u"1", u"1", u"1", "0123456"}, {u"-1", u"0", u"True", "013"}, {u"false", u"2.5", u"0", "2"},
+        {u"0", u"0", u"0", ""},        {u"1", u"", u"1", "!"},        {u"1", u"1", u"S\u00ED", "!"},
+    };
+    for (const auto& c : cases) {
+        fakedlg::Banco banco;
+        auto& f = banco.f();
+        auto& info = banco.mundo.objetos[-2].info;
+        info[15] = c.b15, info[16] = c.b16, info[17] = c.b17;
+        rules::modVariables().numTiposEsp = 7;
+        rules::modVariables().idsHijosEsp.fill(50);
+        SCOPED_TRACE(c.visible);
+        try {
+            f.ocultaTiposFijos();
+        } catch (const vb::RuntimeError& e) {
+            EXPECT_EQ(c.visible, "!");
+            EXPECT_EQ(e.number(), 13);
+            continue;
+        }
+        std::string visible;
+        for (int k = 0; k < 7; ++k)
+            if (f.PictureEsp[k].Visible) visible += char('0' + k);
+        EXPECT_EQ(visible, c.visible);
     }
 }
 

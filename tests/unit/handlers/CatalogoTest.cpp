@@ -2,6 +2,7 @@
 // the search of the catalogue file in sub-folders.
 #include <gtest/gtest.h>
 
+#include "../CaseNames.h"
 #include "../rules/FakeHost.h"
 #include "handlers/Catalogo.h"
 #include "native/SimPlatform.h"
@@ -17,6 +18,9 @@ struct IniCase {
     String ini;
     String expected;
 };
+void PrintTo(const IniCase& c, std::ostream* os) {
+    *os << c.name;
+}
 
 const IniCase kIniCases[] = {
     {"RemoteOnly", u"[Remote]\r\nCatalogsDir=R:\\Cat\r\n", u"R:\\Cat"},
@@ -40,14 +44,16 @@ TEST_P(Ini, SectionOrderAndCut) {
     EXPECT_EQ(handlers::leeDirCatalogos(env), GetParam().expected);
 }
 
-INSTANTIATE_TEST_SUITE_P(Cases, Ini, testing::ValuesIn(kIniCases),
-                         [](const auto& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(Cases, Ini, testing::ValuesIn(kIniCases), casos::PorNombre());
 
 struct TextCase {
     const char* name;
     std::vector<String> lines;
     String expected;
 };
+void PrintTo(const TextCase& c, std::ostream* os) {
+    *os << c.name;
+}
 
 const TextCase kTextCases[] = {
     {"LocalFirstLine", {u"[Local]", u"CatalogsDir=C:\\Cat", u"Other=1"}, u"C:\\Cat"},
@@ -71,8 +77,7 @@ TEST_P(IniTexto, Reads) {
     EXPECT_EQ(handlers::leeDirCatalogosTexto(env), GetParam().expected);
 }
 
-INSTANTIATE_TEST_SUITE_P(Cases, IniTexto, testing::ValuesIn(kTextCases),
-                         [](const auto& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(Cases, IniTexto, testing::ValuesIn(kTextCases), casos::PorNombre());
 
 class Busqueda : public testing::Test {
   protected:

@@ -1,6 +1,7 @@
 // The Wizard's placement path: dispatch by catalogue number and each manufacturer's decisions.
 #include <gtest/gtest.h>
 
+#include "../CaseNames.h"
 #include "../rules/FakeHost.h"
 #include "rules/ModVariables.h"
 #include "wizard/Wizard.h"
@@ -30,6 +31,9 @@ struct Case {
     std::vector<String> messages = {};
     std::vector<Replacement> replacements = {};
 };
+void PrintTo(const Case& c, std::ostream* os) {
+    *os << c.name;
+}
 
 const String kForma = u"C:\\Quorbel\\Catalogs\\forma10.cat";
 const String kXey = u"C:\\Quorbel\\Catalogs\\xey10.cat";
@@ -134,8 +138,7 @@ TEST_P(Casos, Decide) {
     EXPECT_EQ(host.appli->ended, 1);
 }
 
-INSTANTIATE_TEST_SUITE_P(Cases, Casos, testing::ValuesIn(kCases),
-                         [](const auto& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(Cases, Casos, testing::ValuesIn(kCases), casos::PorNombre());
 
 TEST(WizardSetUp, InicEspForgetsMarkerChildren) {
     fake::Platform platform;

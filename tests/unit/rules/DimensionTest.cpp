@@ -4,6 +4,7 @@
 
 #include <set>
 
+#include "../CaseNames.h"
 #include "rules/Dimension.h"
 
 namespace {
@@ -24,6 +25,9 @@ struct Row {
     int lista;  // exception list searched, or kNinguna
     int kind;   // kind of the matrix that decides, or kSiempre
 };
+void PrintTo(const Row& c, std::ostream* os) {
+    *os << c.name;
+}
 
 const Row kRows[] = {
     {"W_depthToo_EAF", 12, true, true, false, {4}, false, 4, 4},
@@ -90,8 +94,7 @@ TEST_P(DecisionTables, KindOfTheMatrix) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Rows, DecisionTables, testing::ValuesIn(kRows),
-                         [](const auto& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(Rows, DecisionTables, testing::ValuesIn(kRows), casos::PorNombre());
 
 TEST(DoorModelRow, UnknownModelUsesFirstRowAndEmptyMatrixForbids) {
     Row row{"", 12, true, false, false, {0}, false, 0, 0};

@@ -2,6 +2,7 @@
 // message by event kind and its translation, description fields, and bad measures.
 #include <gtest/gtest.h>
 
+#include "../CaseNames.h"
 #include "FakeHost.h"
 #include "rules/Especiales.h"
 #include "rules/Modelos.h"
@@ -20,6 +21,9 @@ struct Case {
     const char16_t* concatenado;
     const char16_t* mensaje;  // nullptr: no message
 };
+void PrintTo(const Case& c, std::ostream* os) {
+    *os << c.name;
+}
 
 const Case kCases[] = {
     {"AllThreeOnPlacement",
@@ -105,8 +109,7 @@ TEST_P(Objeto, RestoresCollectsAndTells) {
     EXPECT_EQ(actual.modeloPuerta, u"TIBER");
 }
 
-INSTANTIATE_TEST_SUITE_P(Cases, Objeto, testing::ValuesIn(kCases),
-                         [](const auto& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(Cases, Objeto, testing::ValuesIn(kCases), casos::PorNombre());
 
 TEST_F(Objeto, ExceptionListAcceptsWidthAndDepth) {
     host.scene->objects[105].info[4] = u"EAF_1";

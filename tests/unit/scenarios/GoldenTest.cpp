@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "../CaseNames.h"
 #include "native/RunScenario.h"
 #include "sim/ScenarioLoader.h"
 
@@ -72,12 +73,9 @@ TEST_P(Golden, TranscriptMatches) {
                                     << readableDiff(expected, actual);
 }
 
+// "dialog/open_and_exit.json" is the case dialog_open_and_exit.
 std::string testName(const ::testing::TestParamInfo<std::string>& info) {
-    std::string name = info.param.substr(0, info.param.size() - 5);
-    for (auto& c : name) {
-        if (!std::isalnum(static_cast<unsigned char>(c))) c = '_';
-    }
-    return name;
+    return casos::nombreValido(info.param.substr(0, info.param.size() - 5));
 }
 
 INSTANTIATE_TEST_SUITE_P(Scenarios, Golden, ::testing::ValuesIn(scenariosWithGoldens()), testName);

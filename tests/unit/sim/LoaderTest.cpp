@@ -1,6 +1,7 @@
 // Strict loading: every mistake names its JSON path; a good file builds the world it says.
 #include <gtest/gtest.h>
 
+#include "../CaseNames.h"
 #include "sim/ScenarioLoader.h"
 
 namespace {
@@ -9,6 +10,9 @@ struct BadCase {
     const char* json;
     const char* message;
 };
+void PrintTo(const BadCase& c, std::ostream* os) {
+    *os << c.message;
+}
 
 class LoaderRejects : public ::testing::TestWithParam<BadCase> {};
 
@@ -56,7 +60,8 @@ INSTANTIATE_TEST_SUITE_P(
                 "calls[0].ui[0].control: missing"},
         BadCase{R"({"calls":[{"class":"Plugin","method":"X","ui":[{"do":"snapshot","x":1}]}]})",
                 "calls[0].ui[0].x: unknown key"},
-        BadCase{R"([1])", "(top level): expected an object"}));
+        BadCase{R"([1])", "(top level): expected an object"}),
+    [](const auto& info) { return casos::nombreValido(info.param.message); });
 
 // An object at depth `depth` below the top level, inside its ancestors.
 std::string nested(int depth) {

@@ -178,16 +178,47 @@ TEST_F(Conversions, CStrWritesVbText) {
     EXPECT_EQ(errorOf([] { vb::CStr(Variant::null()); }), 94);
 }
 
+// As VB converts text to Boolean: the words exactly (any case, no blanks around), VB's
+// #TRUE#/#FALSE# literals, then any number (blanks around a number are allowed); anything else,
+// the empty text included, is a type mismatch.
 TEST_F(Conversions, CBoolReadsWordsAndNumbers) {
-    EXPECT_TRUE(vb::CBool(Variant(u"True")));
-    EXPECT_TRUE(vb::CBool(Variant(u" true ")));
-    EXPECT_FALSE(vb::CBool(Variant(u"FALSE")));
-    EXPECT_TRUE(vb::CBool(Variant(u"-1")));
-    EXPECT_FALSE(vb::CBool(Variant(u"0")));
-    EXPECT_TRUE(vb::CBool(Variant(0.1)));
-    EXPECT_FALSE(vb::CBool(Variant()));
-    EXPECT_EQ(errorOf([] { vb::CBool(Variant(u"yes")); }), 13);
-    EXPECT_EQ(errorOf([] { vb::CBool(Variant(u"")); }), 13);
+    struct {
+        Variant input;
+        char16_t separator;
+        std::optional<bool> expected;  // nothing: type mismatch (13)
+    } const cases[] = {
+        {u"True", u'.', true},
+        {u"tRUE", u'.', true},
+        {u"FALSE", u'.', false},
+        {u"#TRUE#", u'.', true},
+        {u"#FALSE#", u'.', false},
+        {u"#true#", u'.', std::nullopt},
+        {u" true ", u'.', std::nullopt},
+        {u"0", u'.', false},
+        {u" 0 ", u'.', false},
+        {u"1", u'.', true},
+        {u"-1", u'.', true},
+        {u"1.5", u'.', true},
+        {u"0.0", u'.', false},
+        {u"1,5", u',', true},
+        {u"1.5", u',', std::nullopt},
+        {u"", u'.', std::nullopt},
+        {u"yes", u'.', std::nullopt},
+        {u"1 0", u'.', std::nullopt},
+        {0.1, u'.', true},
+        {int16_t{0}, u'.', false},
+        {Variant(), u'.', false},
+    };
+    for (const auto& c : cases) {
+        use(c.separator);
+        const auto n = &c - cases;
+        if (c.expected) {
+            EXPECT_EQ(vb::CBool(c.input), *c.expected) << "case " << n;
+        } else {
+            EXPECT_EQ(errorOf([&] { vb::CBool(c.input); }), 13) << "case " << n;
+        }
+    }
+    EXPECT_EQ(errorOf([] { vb::CBool(Variant::null()); }), 94);
 }
 
 TEST(Errors, CarryNumberAndStandardDescription) {

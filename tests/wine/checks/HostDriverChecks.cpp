@@ -1,7 +1,7 @@
 // Checks of the Windows test host's own parts, run under Wine: the argument shapes the
 // simulated host objects accept, binding by name, counting and recording through the sim's
-// recorder, and the scenario arguments as VARIANTs. Prints one line per failed check and a
-// summary; exits 1 when any failed.
+// recorder, the scenario arguments as VARIANTs, and failed calls as VB errors. Prints one line per
+// failed check and a summary; exits 1 when any failed.
 #include <cstdio>
 #include <string>
 #include <vector>
@@ -10,6 +10,7 @@
 #include "HostObjects.h"
 #include "Machine.h"
 #include "SimDispatch.h"
+#include "host/AutomationError.h"
 #include "sim/Player.h"
 #include "vb/Errors.h"
 
@@ -204,6 +205,49 @@ void decimalSeparatorReachesTheLocale() {
     }
 }
 
+// Failed late-bound calls map to VB's errors the same way in the DLL and in the test host.
+void automationFailuresMapToVbErrors() {
+    struct Case {
+        const char* name;
+        HRESULT hr;
+        HRESULT scode;
+        WORD wCode;
+        const wchar_t* description;
+        int number;
+        const char16_t* expected;
+    };
+    const HRESULT vbOverflow = MAKE_HRESULT(1, FACILITY_CONTROL, 6);
+    const Case cases[] = {
+        {"a VB component's error", DISP_E_EXCEPTION, vbOverflow, 0, L"Too big", 6, u"Too big"},
+        {"its standard text when it gives none", DISP_E_EXCEPTION, vbOverflow, 0, nullptr, 6,
+         u"Overflow"},
+        {"wCode wins", DISP_E_EXCEPTION, 0, 1001, L"Mine", 1001, u"Mine"},
+        {"a standard code in scode", DISP_E_EXCEPTION, DISP_E_TYPEMISMATCH, 0, nullptr, 13,
+         u"Type mismatch"},
+        {"any other scode", DISP_E_EXCEPTION, E_FAIL, 0, L"Failed", 440, u"Failed"},
+        {"no code at all", DISP_E_EXCEPTION, 0, 0, nullptr, 440, u"Automation error"},
+        {"type mismatch", DISP_E_TYPEMISMATCH, 0, 0, nullptr, 13, u"Type mismatch"},
+        {"overflow", DISP_E_OVERFLOW, 0, 0, nullptr, 6, u"Overflow"},
+        {"argument count", DISP_E_BADPARAMCOUNT, 0, 0, nullptr, 450,
+         u"Wrong number of arguments or invalid property assignment"},
+        {"argument missing", DISP_E_PARAMNOTOPTIONAL, 0, 0, nullptr, 449, u"Argument not optional"},
+        {"no such member", DISP_E_MEMBERNOTFOUND, 0, 0, nullptr, 438,
+         u"Object doesn't support this property or method"},
+        {"out of memory", E_OUTOFMEMORY, 0, 0, nullptr, 7, u"Out of memory"},
+        {"other failures", E_FAIL, 0, 0, nullptr, 440, u"Automation error"},
+    };
+    for (const Case& c : cases) {
+        EXCEPINFO excep{};
+        excep.scode = c.scode;
+        excep.wCode = c.wCode;
+        excep.bstrDescription = c.description ? SysAllocString(c.description) : nullptr;
+        const vb::RuntimeError e = quorbel::automationError(c.hr, excep);
+        expect(e.number() == c.number && e.description() == c.expected,
+               std::string("automation error: ") + c.name);
+        expect(!excep.bstrDescription, std::string("description freed: ") + c.name);
+    }
+}
+
 }  // namespace
 
 int main() {
@@ -213,6 +257,7 @@ int main() {
     menuItemKeepsItsCommand();
     scenarioArgumentsConvert();
     decimalSeparatorReachesTheLocale();
+    automationFailuresMapToVbErrors();
     CoUninitialize();
     std::printf("%d passed, %d failed\n", passed, failed);
     return failed == 0 ? 0 : 1;

@@ -26,6 +26,13 @@ std::wstring tempFile(const wchar_t* name) {
     return std::wstring(dir) + name;
 }
 
+// A file beside this program: the build puts the icon the installer ships there.
+std::wstring besideProgram(const wchar_t* name) {
+    wchar_t path[MAX_PATH];
+    std::wstring self(path, GetModuleFileNameW(nullptr, path, MAX_PATH));
+    return self.substr(0, self.find_last_of(L"\\/") + 1) + name;
+}
+
 void writeBytes(const std::wstring& path, const std::vector<unsigned char>& bytes) {
     HANDLE f = CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
                            FILE_ATTRIBUTE_NORMAL, nullptr);
@@ -193,6 +200,8 @@ void iconCases() {
     };
     const IconCase cases[] = {
         {L"icon file becomes the window icon", ico, true},
+        {L"the shipped IconAsist.ico becomes the window icon", besideProgram(L"IconAsist.ico"),
+         true},
         {L"no icon file: no icon, no error", L"", false},
         {L"icon file gone since load: no icon, no error", tempFile(L"quorbel-gone.ico"), false},
     };

@@ -1,0 +1,100 @@
+#pragma once
+// A small clean world for the lint tests: one catalogue whose rule tables lint without a
+// line, and a cabinet of it; each test changes one thing.
+#include <string>
+#include <vector>
+
+#include "lint/Lint.h"
+#include "sim/Json.h"
+#include "sim/ScenarioLoader.h"
+
+namespace lint_test {
+
+using sim::Json;
+
+inline Json textLine(const std::string& code, const std::string& text) {
+    return {{"code", code}, {"cols", {{"9", text}}}};
+}
+
+inline Json ruleLine(const std::string& code, const std::string& text) {
+    return {{"code", code}, {"cols", {{"2", text}}}};
+}
+
+inline Json modelLine(const std::string& code, const std::string& name,
+                      const std::string& script = "PUERTA") {
+    return {{"code", code}, {"cols", {{"1", code}, {"3", name}, {"4", script}}}};
+}
+
+inline std::vector<std::string> textKeys() {
+    std::vector<std::string> keys = {"TR_9001", "TR_9003", "TR_9004", "TR_9006", "TR_9007",
+                                     "TR_9010", "TR_9011", "TR_9014", "TR_9015", "TR_9016",
+                                     "TR_9017", "TR_9018", "TR_9019", "TR_9020", "TR_9021"};
+    for (int n : {1,  2,  3,  4,  5,  6,  7,  8,  9,  10, 11, 12, 13, 14, 15,
+                  16, 17, 18, 19, 21, 22, 23, 24, 27, 28, 37, 38, 43, 44}) {
+        const std::string digits = std::to_string(n);
+        keys.push_back("TR_" + std::string(4 - digits.size(), '0') + digits);
+    }
+    return keys;
+}
+
+inline Json cleanCatalogue() {
+    Json t2 = Json::array();
+    for (const auto& key : textKeys()) t2.push_back(textLine(key, "texto " + key));
+    t2.push_back(textLine("TR_0046", "Diagonal por longitudes"));
+    t2.push_back(textLine("TR_0047", "Diagonal por ángulo"));
+    t2.push_back(ruleLine("MO_EA", "MO: M01"));
+    for (const char* code : {"MO_EAl", "MO_EF", "MO_EAAl", "MO_EAF", "MO_EAlF", "MO_EAAlF"})
+        t2.push_back(ruleLine(code, "MO: M01 M02"));
+    t2.push_back(ruleLine("EX_EA", "EX: B60-TIBER"));
+    for (const char* code : {"EX_EAl", "EX_EF", "EX_EAA", "EX_EAF", "EX_EAlF", "EX_EAAF"})
+        t2.push_back(ruleLine(code, "EX:"));
+    Json article = {{"name", "B60"}, {"cols", {{"3", "600"}, {"4", "560"}, {"5", "720"}}}};
+    return {{"language", "ESP"},
+            {"tables",
+             {{"2", t2},
+              {"3", Json::array({article})},
+              {"8", Json::array({modelLine("M01", "TIBER"), modelLine("M02", "MONZA")})}}}};
+}
+
+inline Json cleanWorld() {
+    Json cabinet = {{"id", 100},
+                    {"info", {{"0", "a"}, {"2", "40"}, {"7", "B60"}, {"8", "B60-TIBER"}}}};
+    return {{"catalogs", {{"C:\\Cat\\a.cat", cleanCatalogue()}}},
+            {"scene", Json::array({cabinet})}};
+}
+
+inline Json& tableOf(Json& world, int table, const std::string& catalog = "C:\\Cat\\a.cat") {
+    return world["catalogs"][catalog]["tables"][std::to_string(table)];
+}
+
+// The line of that code (or name) in the first catalogue; the test fails on a missing one.
+inline Json& lineOf(Json& world, int table, const std::string& key) {
+    for (auto& line : tableOf(world, table))
+        if (line.value("code", "") == key || line.value("name", "") == key) return line;
+    throw std::runtime_error("no line " + key);
+}
+
+inline void removeLine(Json& world, int table, const std::string& key) {
+    auto& lines = tableOf(world, table);
+    for (size_t i = 0; i < lines.size(); ++i) {
+        if (lines[i].value("code", "") == key || lines[i].value("name", "") == key) {
+            lines.erase(i);
+            return;
+        }
+    }
+    throw std::runtime_error("no line " + key);
+}
+
+// Every line lint prints for the world, without the catalogue's folder ("a.cat, table 2...").
+inline std::vector<std::string> lintLines(const Json& world) {
+    const auto scenario = sim::loadScenario(world.dump());
+    std::vector<std::string> lines;
+    for (const auto& finding : lint::lintWorld(scenario->world)) {
+        const std::string text = lint::describe(finding);
+        const std::string folder = "C:\\Cat\\";
+        lines.push_back(text.rfind(folder, 0) == 0 ? text.substr(folder.size()) : text);
+    }
+    return lines;
+}
+
+}  // namespace lint_test
