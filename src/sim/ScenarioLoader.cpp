@@ -98,9 +98,10 @@ void loadCatalog(World& world, const std::string& name, const Json& j, const std
     }
 }
 
-// Children nest at most this deep below a top-level object: every reader of the tree walks it
-// recursively, and a file of a few MB could otherwise nest deep enough to exhaust the stack.
-constexpr int kMaxDepth = 100;
+// Children nest at most this deep below a top-level object (scenes of a component 2,000 levels
+// down are played): the loader recurses once per level, each level holding its JSON path, so a
+// file of a few MB could otherwise nest deep enough to exhaust the stack.
+constexpr int kMaxDepth = 2500;
 
 void loadObject(Scene& scene, const Json& j, const std::string& path, int32_t parent, int depth) {
     const bool top = depth == 0;

@@ -74,14 +74,14 @@ std::string nested(int depth) {
 
 // Objects nested some 17,000 levels deep (a 500 KB file) overflowed the stack.
 TEST(Loader, RefusesObjectsNestedTooDeep) {
-    EXPECT_NO_THROW(sim::loadScenario(nested(100)));
+    EXPECT_NO_THROW(sim::loadScenario(nested(2500)));
     std::string where = "scene[0]";
-    for (int d = 0; d < 101; ++d) where += ".children[0]";
+    for (int d = 0; d < 2501; ++d) where += ".children[0]";
     try {
-        sim::loadScenario(nested(101));
-        FAIL() << "loaded 101 levels";
+        sim::loadScenario(nested(2501));
+        FAIL() << "loaded 2501 levels";
     } catch (const sim::ScenarioError& e) {
-        EXPECT_EQ(std::string(e.what()), where + ": objects nested more than 100 deep");
+        EXPECT_EQ(std::string(e.what()), where + ": objects nested more than 2500 deep");
     }
     EXPECT_THROW(sim::loadScenario(nested(30000)), sim::ScenarioError);
 }
