@@ -127,13 +127,14 @@ std::optional<ParsedNumber> parseNumber(const String& text, char16_t separator) 
         number.radix = true;
         number.digits = *digits;
     } else if (auto ascii = readDecimal(text, at, separator)) {
-        number.value = decimalValue(*ascii);
         number.decimal = std::move(*ascii);
     } else {
         return std::nullopt;
     }
     skipBlanks(text, at);
     if (at != text.size()) return std::nullopt;
+    // Only a text that is a number as a whole can overflow: "1E400 x" is no number.
+    if (!number.radix) number.value = decimalValue(number.decimal);
     return number;
 }
 

@@ -24,7 +24,8 @@ struct ParsedNumber {
 };
 
 // The whole text as one number (blanks allowed around it), with `separator` as the decimal
-// point and no group separators; nothing when it is not a number. Raises 6 when too large.
+// point and no group separators; nothing when it is not a number. Raises 6 when it is a number
+// too large for a Double.
 std::optional<ParsedNumber> parseNumber(const String& text, char16_t separator);
 
 // The longest "[sign] digits [separator digits] [E|D [sign] digits]" at `at`, as ASCII with

@@ -83,6 +83,7 @@ TEST_F(Conversions, CLngRoundsHalvesToEvenAndChecksText) {
         {u"1E", u'.', std::nullopt, 13},
         {u"&H", u'.', std::nullopt, 13},
         {u"1E400", u'.', std::nullopt, 6},
+        {u"1E400 x", u'.', std::nullopt, 13},
         {Variant::null(), u'.', std::nullopt, 94},
     };
     for (const auto& c : cases) {
@@ -136,6 +137,8 @@ TEST_F(Conversions, CDblUsesTheThreadSeparator) {
     EXPECT_EQ(vb::CDbl(Variant(u"5.")), 5.0);
     EXPECT_EQ(vb::CDbl(Variant(int16_t{-3})), -3.0);
     EXPECT_EQ(vb::CDbl(Variant(u"1E-400")), 0.0);
+    // Too large, but not a number as a whole: a type mismatch, not an overflow.
+    EXPECT_EQ(errorOf([] { vb::CDbl(Variant(u"1E400\tE-1")); }), 13);
 }
 
 TEST_F(Conversions, CDblOfHexTextIsALongUpTo32BitsAndUnsignedBeyond) {
