@@ -209,7 +209,7 @@ std::unique_ptr<Scenario> loadScenario(const std::string& text) {
     Json root;
     try {
         root = Json::parse(text);
-    } catch (const Json::parse_error& e) {
+    } catch (const Json::exception& e) {  // a syntax error, or a number beyond a double
         throw ScenarioError(std::string("invalid JSON: ") + e.what());
     }
     auto scenario = std::make_unique<Scenario>();
