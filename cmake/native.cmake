@@ -46,6 +46,19 @@ add_test(NAME lint.samples
                  ${CMAKE_SOURCE_DIR})
 set_tests_properties(lint.samples PROPERTIES LABELS native)
 
+# Every sample must play through the runner (exit 0); under the sanitizers this is their check.
+file(GLOB samples CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/samples/*.json
+                                    ${CMAKE_SOURCE_DIR}/samples/*/*.json)
+foreach(sample IN LISTS samples)
+  file(RELATIVE_PATH name ${CMAKE_SOURCE_DIR}/samples ${sample})
+  add_test(NAME sample.${name} COMMAND quorbel-sim run ${sample})
+  set_tests_properties(sample.${name} PROPERTIES LABELS native)
+endforeach()
+add_test(NAME sample.demo COMMAND quorbel-sim demo)
+set_tests_properties(sample.demo PROPERTIES LABELS native)
+
+add_subdirectory(fuzz)
+
 if(EXISTS ${CMAKE_SOURCE_DIR}/bench/CMakeLists.txt AND benchmark_FOUND)
   add_subdirectory(bench)
 endif()

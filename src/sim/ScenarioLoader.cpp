@@ -2,6 +2,7 @@
 
 #include <fstream>
 #include <sstream>
+#include <string>
 
 #include "sim/JsonCheck.h"
 #include "sim/UiActions.h"
@@ -97,7 +98,13 @@ void loadCatalog(World& world, const std::string& name, const Json& j, const std
     }
 }
 
-void loadObject(Scene& scene, const Json& j, const std::string& path, int32_t parent, bool top) {
+// Children nest at most this deep below a top-level object (scenes of a component 2,000 levels
+// down are played): the loader recurses once per level, each level holding its JSON path, so a
+// file of a few MB could otherwise nest deep enough to exhaust the stack.
+constexpr int kMaxDepth = 2500;
+
+void loadObject(Scene& scene, const Json& j, const std::string& path, int32_t parent, int depth) {
+    const bool top = depth == 0;
     if (top) {
         check::keys(j, path, {"id", "info", "script", "children", "parent"});
     } else {
@@ -135,7 +142,10 @@ void loadObject(Scene& scene, const Json& j, const std::string& path, int32_t pa
             scene.addEmptyChild(id);
         } else {
             if (!child.is_object()) check::fail(at(where, i), "expected an object or -1");
-            loadObject(scene, child, at(where, i), id, false);
+            if (depth == kMaxDepth)
+                check::fail(at(where, i),
+                            "objects nested more than " + std::to_string(kMaxDepth) + " deep");
+            loadObject(scene, child, at(where, i), id, depth + 1);
         }
     }
 }
@@ -189,7 +199,7 @@ void loadWorld(Scenario& scenario, const Json& root) {
     if (root.contains("scene")) {
         check::array(root["scene"], "scene");
         for (size_t i = 0; i < root["scene"].size(); ++i)
-            loadObject(scenario.world.scene, root["scene"][i], at("scene", i), kNoObject, true);
+            loadObject(scenario.world.scene, root["scene"][i], at("scene", i), kNoObject, 0);
     }
 }
 
@@ -199,7 +209,7 @@ std::unique_ptr<Scenario> loadScenario(const std::string& text) {
     Json root;
     try {
         root = Json::parse(text);
-    } catch (const Json::parse_error& e) {
+    } catch (const Json::exception& e) {  // a syntax error, or a number beyond a double
         throw ScenarioError(std::string("invalid JSON: ") + e.what());
     }
     auto scenario = std::make_unique<Scenario>();

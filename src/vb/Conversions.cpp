@@ -3,6 +3,7 @@
 
 #include <cmath>
 #include <limits>
+#include <type_traits>
 
 #include "vb/NumberParse.h"
 #include "vb/Strings.h"
@@ -11,13 +12,19 @@ namespace vb {
 
 namespace {
 
+using detail::ParsedNumber;
+
 thread_local char16_t tDecimalSeparator = u'.';
 
-// "&H"/"&O" text is typed as VB types such literals, so "&HFFFF" is -1 and "&H8000" -32768.
-double textToDouble(const String& text) {
-    const auto number = detail::parseNumber(text, tDecimalSeparator);
+ParsedNumber parsedText(const String& text) {
+    auto number = detail::parseNumber(text, tDecimalSeparator);
     if (!number) throw RuntimeError(err::kTypeMismatch);
-    return number->radix ? detail::radixValue(number->bits) : number->value;
+    return std::move(*number);
+}
+
+double textToDouble(const String& text) {
+    const auto number = parsedText(text);
+    return number.radix ? detail::radixDouble(number.digits) : number.value;
 }
 
 // Halves go to the even neighbour, as VB's integer conversions round.
@@ -35,6 +42,26 @@ Int toInteger(double d) {
     if (!(r >= std::numeric_limits<Int>::min() && r <= std::numeric_limits<Int>::max()))
         throw RuntimeError(err::kOverflow);
     return static_cast<Int>(r);
+}
+
+// Text goes to the integer types directly, not through a Double: hex/octal digits are the
+// type's own bits ("&HF060" is 61536 as a Long, -4000 as an Integer), and decimal text is
+// rounded on its exact digits.
+template <typename Int>
+Int textToInteger(const String& text) {
+    using Unsigned = std::make_unsigned_t<Int>;
+    const auto number = parsedText(text);
+    if (number.radix) {
+        const auto& digits = number.digits;
+        if (digits.tooLarge || digits.bits > std::numeric_limits<Unsigned>::max())
+            throw RuntimeError(err::kOverflow);
+        return static_cast<Int>(static_cast<Unsigned>(digits.bits));
+    }
+    const auto rounded = detail::roundedDecimal(number.decimal);
+    if (!rounded || *rounded < std::numeric_limits<Int>::min() ||
+        *rounded > std::numeric_limits<Int>::max())
+        throw RuntimeError(err::kOverflow);
+    return static_cast<Int>(*rounded);
 }
 
 void rejectNull(const Variant& v) {
@@ -91,10 +118,12 @@ double CDbl(const Variant& v) {
 }
 
 int32_t CLng(const Variant& v) {
+    if (v.type() == VarType::String) return textToInteger<int32_t>(v.str());
     return toInteger<int32_t>(CDbl(v));
 }
 
 int16_t CInt(const Variant& v) {
+    if (v.type() == VarType::String) return textToInteger<int16_t>(v.str());
     return toInteger<int16_t>(CDbl(v));
 }
 

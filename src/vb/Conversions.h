@@ -11,10 +11,14 @@ namespace vb {
 void setDecimalSeparator(char16_t separator);  // per thread; "." until set
 char16_t decimalSeparator();
 
-String CStr(const Variant& v);   // Null raises 94 ("Invalid use of Null"); Empty gives ""
-double CDbl(const Variant& v);   // text: blanks allowed around, "&H"/"&O" and exponent forms
-int32_t CLng(const Variant& v);  // halves to even; 6 out of range; 13 not a number
-int16_t CInt(const Variant& v);  // halves to even; 6 out of range; 13 not a number
+String CStr(const Variant& v);  // Null raises 94 ("Invalid use of Null"); Empty gives ""
+// Text: blanks allowed around, exponent forms, "&H"/"&O" digits (a Long's bits up to 32 bits,
+// their unsigned value beyond).
+double CDbl(const Variant& v);
+// Halves to even; 6 out of range; 13 not a number. Text is rounded on its own digits, and
+// "&H"/"&O" text gives the type's bits ("&HFFFF" is 65535 as a Long, -1 as an Integer).
+int32_t CLng(const Variant& v);
+int16_t CInt(const Variant& v);
 bool CBool(const Variant& v);    // numbers: non-zero; text "True"/"False" or a number
 double Val(const String& text);  // leading-number rule, "." decimal point, 0 when none
 bool IsNumeric(const Variant& v);

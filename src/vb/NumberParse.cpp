@@ -8,6 +8,7 @@ namespace vb::detail {
 
 namespace {
 
+constexpr uint64_t kBeyond16Bits = 0x10000ull;
 constexpr uint64_t kBeyond32Bits = 0x100000000ull;
 
 bool isDigit(char16_t c) {
@@ -77,18 +78,20 @@ std::optional<std::string> readDecimal(const String& t, size_t& at, char16_t sep
     return ascii;
 }
 
-std::optional<uint64_t> readRadix(const String& t, size_t& at) {
+std::optional<RadixDigits> readRadix(const String& t, size_t& at) {
     if (at + 1 >= t.size() || t[at] != u'&') return std::nullopt;
     const char16_t kind = t[at + 1];
     const int base = (kind == u'H' || kind == u'h') ? 16 : (kind == u'O' || kind == u'o') ? 8 : 0;
     if (base == 0) return std::nullopt;
-    uint64_t bits = 0;
+    RadixDigits digits;
     size_t end = at + 2;
-    for (int d; end < t.size() && (d = radixDigit(t[end], base)) >= 0; ++end)
-        bits = std::min<uint64_t>(bits * base + d, kBeyond32Bits);
+    for (int d; end < t.size() && (d = radixDigit(t[end], base)) >= 0; ++end) {
+        if (digits.bits > (UINT64_MAX - d) / base) digits.tooLarge = true;
+        digits.bits = digits.bits * base + d;
+    }
     if (end == at + 2) return std::nullopt;
     at = end;
-    return bits;
+    return digits;
 }
 
 double decimalValue(const std::string& ascii) {
@@ -104,26 +107,34 @@ double decimalValue(const std::string& ascii) {
     return value;
 }
 
-double radixValue(uint64_t bits) {
-    if (bits <= 0xFFFF) return static_cast<int16_t>(static_cast<uint16_t>(bits));
-    if (bits < kBeyond32Bits) return static_cast<int32_t>(static_cast<uint32_t>(bits));
-    throw RuntimeError(err::kOverflow);
+double radixLiteral(const RadixDigits& digits) {
+    if (digits.tooLarge || digits.bits >= kBeyond32Bits) throw RuntimeError(err::kOverflow);
+    if (digits.bits < kBeyond16Bits) return static_cast<int16_t>(digits.bits);
+    return static_cast<int32_t>(digits.bits);
+}
+
+double radixDouble(const RadixDigits& digits) {
+    if (digits.tooLarge) throw RuntimeError(err::kOverflow);
+    if (digits.bits < kBeyond32Bits) return static_cast<int32_t>(digits.bits);
+    return static_cast<double>(digits.bits);
 }
 
 std::optional<ParsedNumber> parseNumber(const String& text, char16_t separator) {
     size_t at = 0;
     skipBlanks(text, at);
     ParsedNumber number;
-    if (auto bits = readRadix(text, at)) {
+    if (auto digits = readRadix(text, at)) {
         number.radix = true;
-        number.bits = *bits;
+        number.digits = *digits;
     } else if (auto ascii = readDecimal(text, at, separator)) {
-        number.value = decimalValue(*ascii);
+        number.decimal = std::move(*ascii);
     } else {
         return std::nullopt;
     }
     skipBlanks(text, at);
     if (at != text.size()) return std::nullopt;
+    // Only a text that is a number as a whole can overflow: "1E400 x" is no number.
+    if (!number.radix) number.value = decimalValue(number.decimal);
     return number;
 }
 

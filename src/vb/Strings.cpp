@@ -19,6 +19,32 @@ bool matchesAt(const String& text, size_t at, const String& find, Compare mode) 
     return true;
 }
 
+// Up to this length a plain search is cheapest; beyond it the search must not cost the text's
+// length times the find's (a long parameter definition looked up in a long script).
+constexpr size_t kPlainSearchLength = 16;
+
+size_t plainSearch(const String& text, size_t from, const String& find, Compare mode) {
+    for (size_t at = from; at + find.size() <= text.size(); ++at)
+        if (matchesAt(text, at, find, mode)) return at;
+    return String::npos;
+}
+
+// Knuth-Morris-Pratt: linear in the lengths of both texts.
+size_t linearSearch(const String& text, size_t from, const String& find, Compare mode) {
+    std::vector<size_t> border(find.size(), 0);
+    for (size_t i = 1, k = 0; i < find.size(); ++i) {
+        while (k > 0 && !sameUnit(find[i], find[k], mode)) k = border[k - 1];
+        if (sameUnit(find[i], find[k], mode)) ++k;
+        border[i] = k;
+    }
+    for (size_t i = from, k = 0; i < text.size(); ++i) {
+        while (k > 0 && !sameUnit(text[i], find[k], mode)) k = border[k - 1];
+        if (sameUnit(text[i], find[k], mode)) ++k;
+        if (k == find.size()) return i + 1 - find.size();
+    }
+    return String::npos;
+}
+
 void requireNonNegative(int length) {
     if (length < 0) throw RuntimeError(err::kInvalidCall);
 }
@@ -31,9 +57,9 @@ int InStr(const String& text, const String& find, Compare mode, int start) {
     if (text.empty() || from > text.size()) return 0;  // VB checks these before an empty find
     if (find.empty()) return start;
     if (find.size() > text.size()) return 0;
-    for (size_t at = from; at + find.size() <= text.size(); ++at)
-        if (matchesAt(text, at, find, mode)) return static_cast<int>(at + 1);
-    return 0;
+    const size_t at = find.size() <= kPlainSearchLength ? plainSearch(text, from, find, mode)
+                                                        : linearSearch(text, from, find, mode);
+    return at == String::npos ? 0 : static_cast<int>(at + 1);
 }
 
 std::vector<String> Split(const String& text, const String& separator) {

@@ -18,11 +18,11 @@ String withoutBlanks(const String& text) {
 double Val(const String& text) {
     const String t = withoutBlanks(text);
     size_t at = 0;
-    if (auto bits = detail::readRadix(t, at)) {
+    if (auto digits = detail::readRadix(t, at)) {
         // A trailing "&" types the digits as a Long ("&HFFFF&" is 65535).
-        const bool asLong = at < t.size() && t[at] == u'&' && *bits <= 0xFFFFFFFFull;
-        return asLong ? static_cast<int32_t>(static_cast<uint32_t>(*bits))
-                      : detail::radixValue(*bits);
+        const bool asLong =
+            at < t.size() && t[at] == u'&' && !digits->tooLarge && digits->bits <= 0xFFFFFFFFull;
+        return asLong ? static_cast<int32_t>(digits->bits) : detail::radixLiteral(*digits);
     }
     auto ascii = detail::readDecimal(t, at, u'.');
     return ascii ? detail::decimalValue(*ascii) : 0;

@@ -63,12 +63,38 @@ INSTANTIATE_TEST_SUITE_P(
         BadCase{R"([1])", "(top level): expected an object"}),
     [](const auto& info) { return casos::nombreValido(info.param.message); });
 
-TEST(Loader, InvalidJsonIsAnError) {
+// An object at depth `depth` below the top level, inside its ancestors.
+std::string nested(int depth) {
+    std::string json = R"({"scene":[)";
+    for (int d = 0; d <= depth; ++d)
+        json += R"({"id":)" + std::to_string(d + 1) + R"(,"children":[)";
+    for (int d = 0; d <= depth; ++d) json += "]}";
+    return json + "]}";
+}
+
+// Objects nested some 17,000 levels deep (a 500 KB file) overflowed the stack.
+TEST(Loader, RefusesObjectsNestedTooDeep) {
+    EXPECT_NO_THROW(sim::loadScenario(nested(2500)));
+    std::string where = "scene[0]";
+    for (int d = 0; d < 2501; ++d) where += ".children[0]";
     try {
-        sim::loadScenario("{\"scene\": [");
-        FAIL();
+        sim::loadScenario(nested(2501));
+        FAIL() << "loaded 2501 levels";
     } catch (const sim::ScenarioError& e) {
-        EXPECT_EQ(std::string(e.what()).rfind("invalid JSON: ", 0), 0u) << e.what();
+        EXPECT_EQ(std::string(e.what()), where + ": objects nested more than 2500 deep");
+    }
+    EXPECT_THROW(sim::loadScenario(nested(30000)), sim::ScenarioError);
+}
+
+// A number beyond a double (1e312) failed otherwise than a syntax error and ended the runner.
+TEST(Loader, InvalidJsonIsAnError) {
+    for (const char* text : {"{\"scene\": [", "1e312", R"({"scene": [{"id": -1e400}]})"}) {
+        try {
+            sim::loadScenario(text);
+            ADD_FAILURE() << text;
+        } catch (const sim::ScenarioError& e) {
+            EXPECT_EQ(std::string(e.what()).rfind("invalid JSON: ", 0), 0u) << e.what();
+        }
     }
 }
 

@@ -44,11 +44,20 @@ TEST_F(Conversions, CLngRoundsHalvesToEvenAndChecksText) {
         {-0.5, u'.', 0, 0},
         {2.5000001, u'.', 3, 0},
         {u"  600.5 ", u'.', 600, 0},
+        // Text is rounded on its own digits, not on its nearest Double (2.5, 1.5, 0.5 here).
+        {u"2.50000000000000001", u'.', 3, 0},
+        {u"1.49999999999999999", u'.', 1, 0},
+        {u"0.05E1", u'.', 0, 0},
+        {u"25E-1", u'.', 2, 0},
+        {u"0.0000000000000000000000000000000000000000000000000000000051E56", u'.', 1, 0},
         {u"601.5", u'.', 602, 0},
         {u"600,5", u',', 600, 0},
         {u"&H10", u'.', 16, 0},
-        {u"&HFFFF", u'.', -1, 0},
+        {u"&HFFFF", u'.', 65535, 0},
+        {u"&HF060", u'.', 61536, 0},
+        {u"&HFFFFF060", u'.', -4000, 0},
         {u"&H10000", u'.', 65536, 0},
+        {u"&H100000000", u'.', std::nullopt, 6},
         {u"&O17", u'.', 15, 0},
         {u"1E3", u'.', 1000, 0},
         {u"-1.5e1", u'.', -15, 0},
@@ -59,6 +68,9 @@ TEST_F(Conversions, CLngRoundsHalvesToEvenAndChecksText) {
         {2147483647.0, u'.', 2147483647, 0},
         {-2147483648.0, u'.', INT32_MIN, 0},
         {2147483647.5, u'.', std::nullopt, 6},
+        {u"2147483647.5", u'.', std::nullopt, 6},
+        {u"-2147483648.5", u'.', INT32_MIN, 0},
+        {u"-2147483648.50000000000000001", u'.', std::nullopt, 6},
         {-2147483648.6, u'.', std::nullopt, 6},
         {u"", u'.', std::nullopt, 13},
         {u" ", u'.', std::nullopt, 13},
@@ -71,6 +83,7 @@ TEST_F(Conversions, CLngRoundsHalvesToEvenAndChecksText) {
         {u"1E", u'.', std::nullopt, 13},
         {u"&H", u'.', std::nullopt, 13},
         {u"1E400", u'.', std::nullopt, 6},
+        {u"1E400 x", u'.', std::nullopt, 13},
         {Variant::null(), u'.', std::nullopt, 94},
     };
     for (const auto& c : cases) {
@@ -86,12 +99,21 @@ TEST_F(Conversions, CLngRoundsHalvesToEvenAndChecksText) {
 
 TEST_F(Conversions, CIntHasSixteenBitLimits) {
     const IntCase cases[] = {
-        {32767.0, u'.', 32767, 0},           {-32768.0, u'.', -32768, 0},
-        {32767.4, u'.', 32767, 0},           {-32768.5, u'.', -32768, 0},
-        {u"32766.5", u'.', 32766, 0},        {u"&HFFFF", u'.', -1, 0},
-        {u"&H8000", u'.', -32768, 0},        {int32_t{40000}, u'.', std::nullopt, 6},
-        {u"32767.5", u'.', std::nullopt, 6}, {u"-32768.6", u'.', std::nullopt, 6},
-        {u"&H10000", u'.', std::nullopt, 6}, {u"", u'.', std::nullopt, 13},
+        {32767.0, u'.', 32767, 0},
+        {-32768.0, u'.', -32768, 0},
+        {32767.4, u'.', 32767, 0},
+        {-32768.5, u'.', -32768, 0},
+        {u"32766.5", u'.', 32766, 0},
+        {u"&HFFFF", u'.', -1, 0},
+        {u"&H8000", u'.', -32768, 0},
+        {u"&HF060", u'.', -4000, 0},
+        {int32_t{40000}, u'.', std::nullopt, 6},
+        {u"32767.5", u'.', std::nullopt, 6},
+        {u"-32768.6", u'.', std::nullopt, 6},
+        {u"&H10000", u'.', std::nullopt, 6},
+        {u"&HFFFFFFFF", u'.', std::nullopt, 6},
+        {u"1.5000000000000000001", u'.', 2, 0},
+        {u"", u'.', std::nullopt, 13},
     };
     for (const auto& c : cases) {
         use(c.separator);
@@ -115,6 +137,18 @@ TEST_F(Conversions, CDblUsesTheThreadSeparator) {
     EXPECT_EQ(vb::CDbl(Variant(u"5.")), 5.0);
     EXPECT_EQ(vb::CDbl(Variant(int16_t{-3})), -3.0);
     EXPECT_EQ(vb::CDbl(Variant(u"1E-400")), 0.0);
+    // Too large, but not a number as a whole: a type mismatch, not an overflow.
+    EXPECT_EQ(errorOf([] { vb::CDbl(Variant(u"1E400\tE-1")); }), 13);
+}
+
+TEST_F(Conversions, CDblOfHexTextIsALongUpTo32BitsAndUnsignedBeyond) {
+    EXPECT_EQ(vb::CDbl(Variant(u"&HFFFF")), 65535.0);
+    EXPECT_EQ(vb::CDbl(Variant(u"&HFFFFFFFF")), -1.0);
+    EXPECT_EQ(vb::CDbl(Variant(u"&H100000000")), 4294967296.0);
+    EXPECT_EQ(vb::CDbl(Variant(u"&HFFFFFFFFFFFFFFFF")), 18446744073709551615.0);
+    EXPECT_EQ(vb::CDbl(Variant(u"&O777")), 511.0);
+    EXPECT_EQ(errorOf([] { vb::CDbl(Variant(u"&H10000000000000000")); }), 6);
+    EXPECT_EQ(errorOf([] { vb::CDbl(Variant(u"&H10000000000000000x")); }), 13);
 }
 
 TEST_F(Conversions, CStrWritesVbText) {

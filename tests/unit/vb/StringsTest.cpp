@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <random>
+
 #include "vb/Errors.h"
 #include "vb/Strings.h"
 
@@ -26,6 +29,42 @@ TEST(InStr, FindsByModeAndStart) {
         EXPECT_EQ(vb::InStr(c.text, c.find, c.mode, c.start), c.expected)
             << "case " << (&c - cases);
     EXPECT_THROW(vb::InStr(u"abc", u"a", Compare::Binary, 0), vb::RuntimeError);
+}
+
+// Long finds go through a linear search; it must find what a plain search finds, from any
+// start, in both modes (texts of "a", "b" and "B" hold many partial matches).
+TEST(InStr, LongFindsAgreeWithAPlainSearch) {
+    std::mt19937 random(13);
+    const auto textOf = [&](size_t length) {
+        String t;
+        for (size_t i = 0; i < length; ++i)
+            t += (random() % 2) ? u'a' : (random() % 2 ? u'B' : u'b');
+        return t;
+    };
+    for (int round = 0; round < 2000; ++round) {
+        const String text = textOf(random() % 80);
+        String find = textOf(17 + random() % 8);
+        if (round % 2 == 0 && text.size() > 24) {  // a piece of the text, some letters recased
+            find = text.substr(random() % (text.size() - 24), 17 + random() % 8);
+            for (auto& c : find)
+                if (random() % 4 == 0)
+                    c = vb::upperUnit(c) == c ? vb::lowerUnit(c) : vb::upperUnit(c);
+        }
+        const int start = 1 + static_cast<int>(random() % 40);
+        for (Compare mode : {Compare::Binary, Compare::Text}) {
+            const auto same = [&](char16_t a, char16_t b) {
+                return mode == Compare::Binary ? a == b : vb::lowerUnit(a) == vb::lowerUnit(b);
+            };
+            int expected = 0;
+            if (!text.empty() && static_cast<size_t>(start - 1) <= text.size()) {
+                const auto from = text.begin() + (start - 1);
+                const auto at = std::search(from, text.end(), find.begin(), find.end(), same);
+                if (at != text.end()) expected = static_cast<int>(at - text.begin()) + 1;
+            }
+            ASSERT_EQ(vb::InStr(text, find, mode, start), expected)
+                << vb::toUtf8(text) << " / " << vb::toUtf8(find) << " from " << start;
+        }
+    }
 }
 
 TEST(Split, KeepsEmptyPieces) {
