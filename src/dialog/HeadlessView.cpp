@@ -5,9 +5,8 @@
 
 namespace dialog {
 
-HeadlessView::HeadlessView(const std::vector<UserAction>& actions, DialogObserver& observer,
-                           platform::Platform& platform)
-    : actions_(actions), observer_(observer), platform_(platform) {}
+HeadlessView::HeadlessView(const std::vector<UserAction>& actions, DialogObserver& observer)
+    : actions_(actions), observer_(observer) {}
 
 void HeadlessView::showModal(frmEspEnc& form) {
     form.Form_Load();

@@ -5,14 +5,12 @@
 
 #include "dialog/UserAction.h"
 #include "env/DialogView.h"
-#include "platform/Platform.h"
 
 namespace dialog {
 
 class HeadlessView : public env::DialogView {
   public:
-    HeadlessView(const std::vector<UserAction>& actions, DialogObserver& observer,
-                 platform::Platform& platform);
+    HeadlessView(const std::vector<UserAction>& actions, DialogObserver& observer);
 
     // Form_Load, dialogShown, then the actions. A dialog still open when they run out is
     // closed as by its close box ("endOfActions"); a runtime error closes it ("error") and
@@ -22,7 +20,6 @@ class HeadlessView : public env::DialogView {
   private:
     std::vector<UserAction> actions_;
     DialogObserver& observer_;
-    platform::Platform& platform_;
 };
 
 }  // namespace dialog

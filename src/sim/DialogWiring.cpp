@@ -5,9 +5,8 @@
 namespace sim {
 
 std::unique_ptr<env::DialogView> makeDialogView(const std::vector<dialog::UserAction>& actions,
-                                                   dialog::DialogObserver& observer,
-                                                   platform::Platform& platform) {
-    return std::make_unique<dialog::HeadlessView>(actions, observer, platform);
+                                                dialog::DialogObserver& observer) {
+    return std::make_unique<dialog::HeadlessView>(actions, observer);
 }
 
 }  // namespace sim

@@ -4,14 +4,12 @@
 #include <memory>
 #include <vector>
 
-#include "env/DialogView.h"
 #include "dialog/UserAction.h"
-#include "platform/Platform.h"
+#include "env/DialogView.h"
 
 namespace sim {
 
 std::unique_ptr<env::DialogView> makeDialogView(const std::vector<dialog::UserAction>& actions,
-                                                   dialog::DialogObserver& observer,
-                                                   platform::Platform& platform);
+                                                dialog::DialogObserver& observer);
 
 }  // namespace sim

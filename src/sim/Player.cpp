@@ -29,7 +29,6 @@ Json Simulation::transcript() const {
 
 Player::Player(Simulation& simulation, platform::Platform& platform, host::ReadMode reads)
     : sim_(simulation),
-      platform_(platform),
       factory_(simulation.factory(), reads),
       env_{platform, factory_, nullptr},
       plugin_(env_),
@@ -55,7 +54,7 @@ void Player::play(const CallSpec& call) {
     MethodOutcome outcome;
     Json error = nullptr;
     try {
-        view = makeDialogView(call.ui, recorder, platform_);
+        view = makeDialogView(call.ui, recorder);
         env_.dialogView = view.get();
         std::optional<rules::ExplicacionActiva> explicacion;
         if (recorder.explaining()) explicacion.emplace(&recorder);

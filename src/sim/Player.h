@@ -50,7 +50,6 @@ class Player {
     MethodOutcome dispatch(const CallSpec& call, int32_t block);
 
     Simulation& sim_;
-    platform::Platform& platform_;
     host::CachingFactory factory_;
     env::Env env_;
     handlers::Plugin plugin_;
