@@ -98,6 +98,15 @@ void Scene::visit(int32_t id, std::vector<int32_t>& out) const {
     }
 }
 
+World::World(const World& other)
+    : application(other.application), files(other.files), scene(other.scene) {
+    for (const CatalogData* catalog : other.order_) {
+        auto copy = std::make_unique<CatalogData>(*catalog);
+        order_.push_back(copy.get());
+        catalogs_.emplace(catalogKey(catalog->path), std::move(copy));
+    }
+}
+
 CatalogData& World::addCatalog(const String& path, String language) {
     auto& slot = catalogs_[catalogKey(path)];
     if (!slot) {

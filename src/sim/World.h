@@ -85,6 +85,13 @@ struct Application {
 
 class World {
   public:
+    World() = default;
+    World(World&&) = default;
+    World& operator=(World&&) = default;
+    // A copy holds catalogues of its own, added in the same order.
+    World(const World& other);
+    World& operator=(const World&) = delete;
+
     Application application;
     VirtualFs files;
     Scene scene;

@@ -99,7 +99,9 @@ void sweep(const SweepScenario& scenario, bool every, Figures& figures,
            const std::function<void(const std::string&)>& beforeRun) {
     std::vector<const char*> trace;
     beforeRun(scenario.name + " without a fault");
-    const Played clean = play(scenario.text, {{}, 0, &trace, nullptr});
+    // Loaded once: each run copies the world instead of reading the file again.
+    const auto loaded = sim::loadScenario(scenario.text);
+    const Played clean = play(*loaded, {{}, 0, &trace, nullptr});
     ++figures.scenarios;
     figures.hostCalls += clean.hostCalls;
     for (const std::string& p : clean.problems)
@@ -112,7 +114,7 @@ void sweep(const SweepScenario& scenario, bool every, Figures& figures,
             beforeRun(run);
             sim::FaultPlan plan;
             plan.counted.push_back({k, kind});
-            const Played faulted = play(scenario.text, {plan, budget, nullptr, &clean.start});
+            const Played faulted = play(*loaded, {plan, budget, nullptr, &clean.start});
             ++figures.runs;
             ++figures.outcomes[std::string(sim::faultKindName(kind)) + " " + outcome(faulted)];
             for (const std::string& p : judge(clean, faulted, k, kind, budget))

@@ -3,7 +3,6 @@
 #include "native/SimPlatform.h"
 #include "rules/ModVariables.h"
 #include "sim/Player.h"
-#include "sim/ScenarioLoader.h"
 
 namespace faults {
 
@@ -36,10 +35,10 @@ void prepareFollowUp(sim::Simulation& simulation, const sim::World& initial,
 
 }  // namespace
 
-Played play(const std::string& scenarioText, const RunSetup& setup) {
-    const auto initial = sim::loadScenario(scenarioText);
-    auto scenario = sim::loadScenario(scenarioText);
-    sim::Simulation simulation(std::move(scenario->world));
+Played play(const sim::Scenario& loaded, const RunSetup& setup) {
+    // Every run plays a world of its own; `loaded` stays as the scenario began.
+    sim::Simulation simulation(sim::World(loaded.world));
+    const std::vector<sim::CallSpec>& calls = loaded.calls;
     sim::HostState& state = simulation.state();
     state.faults = setup.plan;
     state.hostCallBudget = setup.hostCallBudget;
@@ -47,17 +46,17 @@ Played play(const std::string& scenarioText, const RunSetup& setup) {
     native::SimPlatform platform(simulation);
     sim::Player player(simulation, platform);
     Played played;
-    for (size_t i = 0; i < scenario->calls.size(); ++i) {
-        player.play(scenario->calls[i]);
+    for (size_t i = 0; i < calls.size(); ++i) {
+        player.play(calls[i]);
         checkReleased(state, "after call " + std::to_string(i), played.problems);
     }
     played.calls = simulation.recorder().calls();
     played.fired = state.fired;
     played.hostCalls = state.hostCallsMade;
-    if (scenario->calls.empty()) return played;
+    if (calls.empty()) return played;
     state.callTrace = nullptr;
-    prepareFollowUp(simulation, initial->world, setup.followUpStart, played);
-    player.play(scenario->calls.front());
+    prepareFollowUp(simulation, loaded.world, setup.followUpStart, played);
+    player.play(calls.front());
     checkReleased(state, "after the follow-up", played.problems);
     played.followUp = simulation.recorder().calls().back();
     return played;

@@ -11,6 +11,7 @@
 #include "sim/Faults.h"
 #include "sim/HostState.h"
 #include "sim/Json.h"
+#include "sim/Scenario.h"
 
 namespace faults {
 
@@ -36,7 +37,6 @@ struct Played {
     std::vector<std::string> problems;  // host objects alive after a call
 };
 
-// Raises sim::ScenarioError for a scenario that does not load.
-Played play(const std::string& scenarioText, const RunSetup& setup);
+Played play(const sim::Scenario& loaded, const RunSetup& setup);
 
 }  // namespace faults

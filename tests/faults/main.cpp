@@ -1,8 +1,9 @@
 // fault-sweep: plays every golden scenario and sample with the simulated host failing each of
 // its calls in turn (see FaultSweep.h) and prints what it found.
-//   fault-sweep [--every] [--only TEXT]
+//   fault-sweep [--every] [--only TEXT] [--part I/N]
 // Without --every, scenarios of more than 300 host calls have a fixed sample of their calls
-// failed (the CI share); --only keeps the scenarios whose name contains TEXT.
+// failed (the CI share); --only keeps the scenarios whose name contains TEXT; --part I/N keeps
+// every N-th scenario from the I-th on (1 <= I <= N), so that N processes share a sweep.
 // Exit codes: 0 nothing found, 1 findings, 2 bad usage. A crash names the run it happened in.
 #include <unistd.h>
 
@@ -35,10 +36,29 @@ void noteRun(const std::string& run) {
     std::snprintf(currentRun, sizeof currentRun, "%s", run.c_str());
 }
 
-int sweepAll(bool every, const std::string& only) {
+struct Part {
+    size_t index = 0;  // from 0
+    size_t count = 1;
+};
+
+// "I/N" with 1 <= I <= N.
+bool readPart(const std::string& text, Part& part) {
+    size_t i = 0, n = 0;
+    char slash = 0, rest = 0;
+    if (std::sscanf(text.c_str(), "%zu%c%zu%c", &i, &slash, &n, &rest) != 3 || slash != '/')
+        return false;
+    if (i < 1 || i > n) return false;
+    part = {i - 1, n};
+    return true;
+}
+
+int sweepAll(bool every, const std::string& only, Part part) {
     const auto start = std::chrono::steady_clock::now();
     faults::Figures figures;
-    for (const auto& scenario : faults::sweepScenarios(QUORBEL_SOURCE_DIR)) {
+    const auto scenarios = faults::sweepScenarios(QUORBEL_SOURCE_DIR);
+    for (size_t i = 0; i < scenarios.size(); ++i) {
+        const auto& scenario = scenarios[i];
+        if (i % part.count != part.index) continue;
         if (scenario.name.find(only) == std::string::npos) continue;
         faults::sweep(scenario, every, figures, noteRun);
     }
@@ -62,19 +82,22 @@ int main(int argc, char** argv) {
     for (const int s : {SIGSEGV, SIGABRT, SIGFPE, SIGBUS, SIGILL}) std::signal(s, onCrash);
     bool every = false;
     std::string only;
+    Part part;
     for (int i = 1; i < argc; ++i) {
         const std::string a = argv[i];
         if (a == "--every") {
             every = true;
         } else if (a == "--only" && i + 1 < argc) {
             only = argv[++i];
+        } else if (a == "--part" && i + 1 < argc && readPart(argv[i + 1], part)) {
+            ++i;
         } else {
-            std::cerr << "usage: fault-sweep [--every] [--only TEXT]\n";
+            std::cerr << "usage: fault-sweep [--every] [--only TEXT] [--part I/N]\n";
             return 2;
         }
     }
     try {
-        return sweepAll(every, only);
+        return sweepAll(every, only, part);
     } catch (const std::exception& e) {
         std::cerr << "fault-sweep: " << currentRun << ": " << e.what() << "\n";
     }
