@@ -2,38 +2,16 @@
 // print for it (each the start of a line, in order, nothing more).
 #include <gtest/gtest.h>
 
-#include <functional>
-
 #include "World.h"
 
 namespace {
 
 using namespace lint_test;
 
-struct Case {
-    const char* name;
-    std::function<void(Json&)> change;
-    std::vector<std::string> expected;
-};
-
-void PrintTo(const Case& c, std::ostream* os) {
-    *os << c.name;
-}
-
-void setRule(Json& w, const std::string& code, const std::string& text) {
-    lineOf(w, 2, code)["cols"]["2"] = text;
-}
-
 class Lint : public ::testing::TestWithParam<Case> {};
 
 TEST_P(Lint, PrintsItsFindings) {
-    Json world = cleanWorld();
-    GetParam().change(world);
-    const auto lines = lintLines(world);
-    const auto& expected = GetParam().expected;
-    ASSERT_EQ(lines.size(), expected.size()) << ::testing::PrintToString(lines);
-    for (size_t i = 0; i < lines.size(); ++i)
-        EXPECT_EQ(lines[i].substr(0, expected[i].size()), expected[i]) << lines[i];
+    expectFindings(GetParam());
 }
 
 const std::string MO_EA = "a.cat, table 2, line MO_EA: ";

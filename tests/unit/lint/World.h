@@ -1,6 +1,10 @@
 #pragma once
 // A small clean world for the lint tests: one catalogue whose rule tables lint without a
-// line, and a cabinet of it; each test changes one thing.
+// line, and a cabinet of it; each test changes one thing and names the lines lint must print.
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -95,6 +99,31 @@ inline std::vector<std::string> lintLines(const Json& world) {
         lines.push_back(text.rfind(folder, 0) == 0 ? text.substr(folder.size()) : text);
     }
     return lines;
+}
+
+inline void setRule(Json& world, const std::string& code, const std::string& text) {
+    lineOf(world, 2, code)["cols"]["2"] = text;
+}
+
+// A clean world changed in one place, and the lines lint must print for it (each the start of
+// a line, in order, nothing more).
+struct Case {
+    const char* name;
+    std::function<void(Json&)> change;
+    std::vector<std::string> expected;
+};
+
+inline void PrintTo(const Case& c, std::ostream* os) {
+    *os << c.name;
+}
+
+inline void expectFindings(const Case& c) {
+    Json world = cleanWorld();
+    c.change(world);
+    const auto lines = lintLines(world);
+    ASSERT_EQ(lines.size(), c.expected.size()) << ::testing::PrintToString(lines);
+    for (size_t i = 0; i < lines.size(); ++i)
+        EXPECT_EQ(lines[i].substr(0, c.expected[i].size()), c.expected[i]) << lines[i];
 }
 
 }  // namespace lint_test
