@@ -1,13 +1,22 @@
 # The `wine` suite: the real DLL under Wine and a virtual display, in one shared prefix set up
 # once per run (fixture `wine`): registration and a script host (tests/wine/run), then every
 # scenario played through hostdriver.exe (user actions as real window messages on the dialog)
-# and compared with the native runner's transcript; the dialog's window on its own.
+# and compared with the native runner's transcript; the dialog's window on its own. The same
+# tests serve both builds: win64 runs them under this machine's wine64, win32 (the DLL that
+# ships) under the 32-bit Wine of the i386 userland (scripts/i386-userland).
 set(QUORBEL_NATIVE_RUNNER ${CMAKE_SOURCE_DIR}/build/native/quorbel-sim
     CACHE FILEPATH "The native scenario runner the Wine transcripts are compared with")
 set(WINE_TESTS ${CMAKE_SOURCE_DIR}/tests/wine)
 set(WINE_SUITE ${CMAKE_BINARY_DIR}/wine-suite)
+if(CMAKE_SIZEOF_VOID_P EQUAL 8)
+  set(WINE_ARCH x64)
+else()
+  set(WINE_ARCH x86)
+endif()
+# Wine of this build's architecture; every test runs inside `suite exec`, which chooses it.
+set(WINE ${WINE_TESTS}/wine)
 
-add_test(NAME wine.setup COMMAND ${WINE_TESTS}/suite start ${WINE_SUITE})
+add_test(NAME wine.setup COMMAND ${WINE_TESTS}/suite start ${WINE_SUITE} ${WINE_ARCH})
 add_test(NAME wine.teardown COMMAND ${WINE_TESTS}/suite stop ${WINE_SUITE})
 set_tests_properties(wine.setup PROPERTIES FIXTURES_SETUP wine LABELS wine)
 set_tests_properties(wine.teardown PROPERTIES FIXTURES_CLEANUP wine LABELS wine)
@@ -69,29 +78,32 @@ foreach(case IN LISTS fault_cases)
             ${CMAKE_BINARY_DIR}/hostdriver.exe ${CMAKE_SOURCE_DIR}/${file} ${parts})
 endforeach()
 
-wine_test(wine.hostdriver_checks /usr/lib/wine/wine64 ${CMAKE_BINARY_DIR}/hostdriver-checks.exe)
+wine_test(wine.hostdriver_checks ${WINE} ${CMAKE_BINARY_DIR}/hostdriver-checks.exe)
 
 # The dialog's window without a host: layout at 96 and 120 dpi, drawings, colours, icon, preview.
 wine_test(wine.dialog_view env QUORBEL_WINE_TEMPLATE=${WINE_SUITE}/template
           ${WINE_TESTS}/dialog-view ${CMAKE_BINARY_DIR}/dialog-view-check.exe)
 set_tests_properties(wine.dialog_view PROPERTIES TIMEOUT 300)
 
-# The version the build carries (read back from both DLLs) and the installer packages: the x64
-# one installed, used, upgraded and removed in a prefix of its own; the x86 one's tables.
+# The version the build carries (read back from the DLL) and the installer package of this
+# architecture, installed, used, upgraded and removed in a prefix of its own; the two packages'
+# tables against each other.
 set(QUORBEL_WIN32_BUILD ${CMAKE_SOURCE_DIR}/build/win32
-    CACHE PATH "The win32 build, whose DLL and package the Wine suite checks too")
+    CACHE PATH "The win32 build, whose package the tables are compared with")
+set(QUORBEL_WIN64_BUILD ${CMAKE_SOURCE_DIR}/build/win64
+    CACHE PATH "The win64 build, whose package the tables are compared with")
 add_executable(version-check ${WINE_TESTS}/version/VersionCheck.cpp)
 target_link_libraries(version-check PRIVATE -static-libgcc -static-libstdc++ -lversion -loleaut32
                       -lole32)
 set_target_properties(version-check PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
 wine_test(wine.version_resource ${WINE_TESTS}/version-resource ${CMAKE_BINARY_DIR}/version-check.exe
-          ${PROJECT_VERSION} ${CMAKE_BINARY_DIR}/Quorbel.dll ${QUORBEL_WIN32_BUILD}/Quorbel.dll)
+          ${PROJECT_VERSION} ${CMAKE_BINARY_DIR}/Quorbel.dll)
 wine_test(wine.msi_install env QUORBEL_WINE_TEMPLATE=${WINE_SUITE}/template
           ${WINE_TESTS}/msi-install ${CMAKE_BINARY_DIR} ${PROJECT_VERSION} ${QUORBEL_TYPELIB_KEY})
 set_tests_properties(wine.msi_install PROPERTIES TIMEOUT 300)
 add_test(NAME wine.msi_x86_tables COMMAND ${WINE_TESTS}/msi-tables
          ${QUORBEL_WIN32_BUILD}/Quorbel-${PROJECT_VERSION}-x86.msi
-         ${CMAKE_BINARY_DIR}/Quorbel-${PROJECT_VERSION}-x64.msi ${PROJECT_VERSION})
+         ${QUORBEL_WIN64_BUILD}/Quorbel-${PROJECT_VERSION}-x64.msi ${PROJECT_VERSION})
 set_tests_properties(wine.msi_x86_tables PROPERTIES LABELS wine)
 
 # A long working day through the real DLL: every object released and private memory flat.
