@@ -156,6 +156,10 @@ SCENARIOS = {
                                ACCEPT, typed("TextValores", 0, "300"),
                                typed("TextValores", 2, "700"), ACCEPT,
                                typed("TextValores", 2, "144.5"), ACCEPT])],
+    # Descriptions past 64 K characters with a NUL inside, read from the host and written back
+    # with the recess and diagonal blocks: nothing cut at a 16-bit length or at the NUL.
+    "long_texts": [call([lclick(4, 0), typed("TxtValoresEnc", 0, "550"), click("ImageDiagonal", 1),
+                         typed("TextValores", 3, "45"), ACCEPT])],
     # The diagonal by angle: empty, 181, then 180.
     "diagonal_angle": [call([click("ImageDiagonal", 1), ACCEPT, typed("TextValores", 3, "181"),
                              ACCEPT, typed("TextValores", 3, "180"), ACCEPT])],
@@ -308,6 +312,12 @@ def scene_for(name):
         read_as_vb["info"].update({"15": "True", "16": "0", "17": " 1 "})
         read_as_vb["children"][7]["info"].update({"15": "tRUE", "16": "#FALSE#", "17": "-2.5"})
         return [on_object, on_component, read_as_vb]
+    if name == "long_texts":
+        c = cabinet()
+        long_text = "Nota\u0000oculta " + "0123456789" * 7000
+        c["children"][-3]["info"]["49"] = long_text + "\r\n" + "-" * 23 + "\r\nbloque viejo"
+        c["children"][-1]["info"]["49"] = long_text + "\r\nbloque\r\nviejo"
+        return [c]
     if name == "deep_component":
         c = cabinet()
         c["children"].append(deep_chain(DEEP_LEVELS))
