@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "rules/LecturaReglas.h"
 #include "vb/Conversions.h"
 #include "vb/Strings.h"
 
@@ -38,9 +39,8 @@ ExcepcionesLeidas GenExcepciones(int32_t& sessionId, host::Catalog& catalog) {
             vb::CLng(catalog.TableGetLineRankFromCode(sessionId, 2, 0, 1, kCodigos[k], false));
         const String text = vb::CStr(catalog.TableGetLineInfo(sessionId, 2, 0, rank, 2));
         // An empty text keeps the list as it was, possibly the previous catalogue's.
-        if (text.empty()) continue;
-        leidas[k] = vb::Split(text.size() > 3 ? text.substr(3) : String(), u" ");
-        mv.excepciones[k] = leidas[k];
+        leidas[k] = leeExcepcion(text);
+        if (leidas[k]) mv.excepciones[k] = leidas[k];
     }
     return leidas;
 }
