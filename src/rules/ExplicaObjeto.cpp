@@ -2,6 +2,7 @@
 
 #include "rules/ExplicaDimension.h"
 #include "rules/Explicacion.h"
+#include "vb/Conversions.h"
 
 namespace rules {
 
@@ -35,6 +36,16 @@ String explicaIgualEntero(int32_t dimension, const String& valor, const String& 
 String explicaDifiere(int32_t dimension, const String& valor, const String& catalogo) {
     return mayusculaInicial(nombreMedida(dimension)) + u" " + entreComillas(valor) +
            u" differs from the catalogue's " + entreComillas(catalogo) + u".";
+}
+
+String explicaIlegible(int32_t dimension, const String& texto, bool delCatalogo,
+                       const vb::RuntimeError& error) {
+    const String medida = delCatalogo
+                              ? u"The catalogue's " + nombreMedida(dimension) + u" (table 3)"
+                              : u"The cabinet's " + nombreMedida(dimension);
+    return medida + u" " + entreComillas(texto) +
+           u" cannot be read as a whole number: the check stops with error " +
+           vb::numberText(error.number()) + u" (" + error.description() + u").";
 }
 
 String explicaRestaurada(int32_t dimension, const String& catalogo, bool anadida) {

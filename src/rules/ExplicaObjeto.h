@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "rules/Objeto.h"
+#include "vb/Errors.h"
 
 namespace rules {
 
@@ -11,6 +12,8 @@ String explicaObjeto(const ObjetoActual& actual, const String& articulo, int32_t
                      const MedidasObjeto& medidas, const MedidasObjeto& catalogo);
 String explicaIgualEntero(int32_t dimension, const String& valor, const String& catalogo);
 String explicaDifiere(int32_t dimension, const String& valor, const String& catalogo);
+String explicaIlegible(int32_t dimension, const String& texto, bool delCatalogo,
+                       const vb::RuntimeError& error);
 String explicaRestaurada(int32_t dimension, const String& catalogo, bool anadida);
 
 }  // namespace rules

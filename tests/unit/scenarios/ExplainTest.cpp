@@ -83,6 +83,30 @@ const Decision kDecisions[] = {
      "Article code \"0446\" is exempt from every rule of this manufacturer."},
     {"tests/scenarios/wizard/xey_depth_only.json", 0,
      "the cabinet is replaced from xey08.cat keeping its depth \"580\"."},
+    // A height marker found in an earlier call: where and when, so that the next line (no such
+    // child on this cabinet) does not read as a contradiction.
+    {"tests/explain/decisions.json", 0,
+     "(a child named with \"EAl_\" has been found: child 101, among the children of this "
+     "call's cabinet, in this call)"},
+    {"tests/explain/decisions.json", 1,
+     "(a child named with \"EAl_\" has been found: child 101, among the children of the "
+     "cabinet of that call, in an earlier call (call 1 of this trace), and the rules remember it "
+     "for every later cabinet); it is not listed."},
+    {"tests/explain/decisions.json", 2,
+     "as the width differs too as text (\"600.0\" against the catalogue's \"600\"; as whole "
+     "numbers they are equal, but here the texts are compared) and child 121 carries the marker "
+     "\"EAA_\""},
+    {"tests/explain/decisions.json", 3,
+     "The cabinet's width \"6x0\" cannot be read as a whole number: the check stops with error "
+     "13 (Type mismatch)."},
+    {"tests/explain/summary.json", 0,
+     "Summary TR_9017 shown (caption TR_9001) with the refused references \"B60-TIBER\"; its "
+     "texts go through the dictionary, as the application's language \"ENG\" differs from the "
+     "language \"\" of the catalogue that was current when the check began"},
+    {"tests/explain/summary.json", 2, "No cabinet was refused: no summary is shown."},
+    {"tests/scenarios/dialog/flags_not_boolean.json", 0,
+     "The call stops at error 13 (Type mismatch): the text \"s\u00ED\" cannot be read as a "
+     "number; the error is shown in a message and the call returns true."},
 };
 
 INSTANTIATE_TEST_SUITE_P(Rules, Explains, ::testing::ValuesIn(kDecisions),
