@@ -46,6 +46,12 @@ add_test(NAME lint.samples
                  ${CMAKE_SOURCE_DIR})
 set_tests_properties(lint.samples PROPERTIES LABELS native)
 
+# The command line as a person meets it: help, usage mistakes, files that do not load.
+add_test(NAME quorbel_sim.command_line
+         COMMAND ${CMAKE_SOURCE_DIR}/tests/tools/check-cli $<TARGET_FILE:quorbel-sim>
+                 ${CMAKE_SOURCE_DIR})
+set_tests_properties(quorbel_sim.command_line PROPERTIES LABELS native)
+
 # Every sample must play through the runner (exit 0); under the sanitizers this is their check.
 file(GLOB samples CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/samples/*.json
                                     ${CMAKE_SOURCE_DIR}/samples/*/*.json)
