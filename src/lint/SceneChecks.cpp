@@ -4,31 +4,11 @@
 #include <set>
 
 #include "lint/Placement.h"
-#include "vb/Strings.h"
+#include "rules/Modelos.h"
 
 namespace lint {
 
 namespace {
-
-struct Rows {
-    int placement = 0;  // exact name, else 0
-    int dialog = 0;     // letter case aside, else 0
-    bool exact = false;
-};
-
-Rows rowsFor(const std::vector<String>& models, const String& model) {
-    Rows rows;
-    for (size_t m = 0; m < models.size(); ++m) {
-        if (models[m] == model) return {static_cast<int>(m), static_cast<int>(m), true};
-    }
-    for (size_t m = 0; m < models.size(); ++m) {
-        if (vb::equalText(models[m], model)) {
-            rows.dialog = static_cast<int>(m);
-            break;
-        }
-    }
-    return rows;
-}
 
 // The kinds whose permission differs between the two models.
 std::vector<String> differingKinds(const Subject& s, const String& a, const String& b) {
@@ -51,9 +31,11 @@ void checkSceneModels(const Subject& s, Report& r) {
     std::set<String> told;
     for (const auto* cabinet : cabinetsOf(s)) {
         const String model = info(*cabinet, 64);
-        const Rows rows = rowsFor(models, model);
-        if (rows.exact || rows.dialog == 0 || !told.insert(model).second) continue;
-        const String first = models[0], matched = models[rows.dialog];
+        const int n = static_cast<int>(models.size());
+        const auto placement = rules::filaDelModelo(models, n, model, false);
+        const int dialog = rules::filaDelModelo(models, n, model, true).value_or(0);
+        if (placement || dialog == 0 || !told.insert(model).second) continue;
+        const String first = models[0], matched = models[dialog];
         const auto kindsDiffer = differingKinds(s, first, matched);
         if (kindsDiffer.empty()) continue;  // both rows permit the same: nothing differs
         r.finding(8, modelPlace(*modelLine(s, matched)),

@@ -1,10 +1,9 @@
 #include "rules/Dimension.h"
 
-#include <algorithm>
-
 #include "rules/Especiales.h"
 #include "rules/ExplicaDimension.h"
 #include "rules/Explicacion.h"
+#include "rules/Modelos.h"
 #include "rules/Refresco.h"
 #include "rules/TablasDecision.h"
 
@@ -22,14 +21,6 @@ Situacion situacionDe(const ModVariables& mv, const Medidas& medidas, int32_t id
     for (int k = 0; k < kNumTipos; ++k) s.marca[k] = mv.idsHijosEsp[k] != idPas;
     s.hayHijoAlto = mv.hayHijoEsp[1];
     return s;
-}
-
-int filaModelo(const ModVariables& mv, const String& model) {
-    const int n = std::min<int>(mv.numModelos, static_cast<int>(mv.modelos.size()));
-    for (int m = 0; m < n; ++m) {
-        if (mv.modelos[m] == model) return m;
-    }
-    return 0;
 }
 
 }  // namespace
@@ -50,7 +41,7 @@ bool procesaDimension(const ModVariables& mv, int32_t dimension, const Medidas& 
         explica([&] { return explicaSinMarca(dimension, kind.marca); });
         return true;
     }
-    const int fila = filaModelo(mv, model);
+    const int fila = filaDelModelo(mv.modelos, mv.numModelos, model, false).value_or(0);
     const bool permitido = permiso(mv, fila, kind.valor);
     explica([&] { return explicaPermiso(porque, dimension, kind, model, fila, permitido); });
     return permitido;

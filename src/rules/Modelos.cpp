@@ -1,5 +1,6 @@
 #include "rules/Modelos.h"
 
+#include <algorithm>
 #include <array>
 
 #include "rules/LecturaReglas.h"
@@ -27,6 +28,15 @@ void GenModEsp(int32_t& sessionId, host::Catalog& catalog) {
 
 bool modeloValido(const String& refer, const String& /*code*/, const String& script) {
     return vb::Left(refer, 1) != u"@" && !script.empty();
+}
+
+std::optional<int> filaDelModelo(const std::vector<String>& modelos, int numModelos,
+                                 const String& modelo, bool ignorarMayusculas) {
+    const int n = std::min<int>(numModelos, static_cast<int>(modelos.size()));
+    for (int m = 0; m < n; ++m) {
+        if (ignorarMayusculas ? vb::equalText(modelos[m], modelo) : modelos[m] == modelo) return m;
+    }
+    return std::nullopt;
 }
 
 ExcepcionesLeidas GenExcepciones(int32_t& sessionId, host::Catalog& catalog) {
