@@ -67,7 +67,8 @@ void checkPermissionLine(const Subject& s, const Kind& kind, Report& r) {
         text += u"; so the special-editing dialog offers type " + kind.type + u" to " +
                 joinedQuoted(offeredRefused) + u", whose change a placement refuses";
     if (!keptNotOffered.empty())
-        text += u"; so a placement keeps that change for " + joinedQuoted(keptNotOffered) +
+        text += String(offeredRefused.empty() ? u"; so" : u"; and") +
+                u" a placement keeps that change for " + joinedQuoted(keptNotOffered) +
                 u", to which the special-editing dialog does not offer type " + kind.type;
     // A line only the dialog reads does there what it says; a line read for other changes
     // than its own misleads at placement too.
