@@ -13,7 +13,7 @@ const std::vector<rules::FilaTabla>& rowsOf(Decision table, int32_t measure) {
                                          : rules::tablaPermisos(measure);
 }
 
-constexpr int32_t kMeasures[] = {12, 13, 14};
+constexpr int32_t kMeasures[] = {rules::kCodigoAncho, rules::kCodigoFondo, rules::kCodigoAlto};
 
 String markerText(int marca, bool present) {
     if (marca == rules::kHayHijoAlto)
@@ -41,9 +41,9 @@ bool excludedBy(const rules::FilaTabla& earlier, const rules::FilaTabla& row) {
 rules::Situacion ownSituation(int k) {
     rules::Situacion s;
     for (const int32_t m : rules::medidasDelTipo(k)) {
-        if (m == 12) s.anchoDifiere = true;
-        if (m == 13) s.fondoDifiere = true;
-        if (m == 14) s.altoDifiere = true;
+        if (m == rules::kCodigoAncho) s.anchoDifiere = true;
+        if (m == rules::kCodigoFondo) s.fondoDifiere = true;
+        if (m == rules::kCodigoAlto) s.altoDifiere = true;
     }
     s.marca[k] = true;
     s.hayHijoAlto = k == 1;
