@@ -38,14 +38,23 @@ String explicaDifiere(int32_t dimension, const String& valor, const String& cata
            u" differs from the catalogue's " + entreComillas(catalogo) + u".";
 }
 
-String explicaIlegible(int32_t dimension, const String& texto, bool delCatalogo,
-                       const vb::RuntimeError& error) {
-    const String medida = delCatalogo
-                              ? u"The catalogue's " + nombreMedida(dimension) + u" (table 3)"
-                              : u"The cabinet's " + nombreMedida(dimension);
-    return medida + u" " + entreComillas(texto) +
+namespace {
+
+String ilegible(const String& que, const String& texto, const vb::RuntimeError& error) {
+    return que + u" " + entreComillas(texto) +
            u" cannot be read as a whole number: the check stops with error " +
            vb::numberText(error.number()) + u" (" + error.description() + u").";
+}
+
+}  // namespace
+
+int32_t medidaEntera(const String& texto, const String& que) {
+    try {
+        return vb::CLng(texto);
+    } catch (const vb::RuntimeError& e) {
+        explica([&] { return ilegible(que, texto, e); });
+        throw;
+    }
 }
 
 String explicaRestaurada(int32_t dimension, const String& catalogo, bool anadida) {

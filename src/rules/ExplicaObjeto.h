@@ -12,8 +12,9 @@ String explicaObjeto(const ObjetoActual& actual, const String& articulo, int32_t
                      const MedidasObjeto& medidas, const MedidasObjeto& catalogo);
 String explicaIgualEntero(int32_t dimension, const String& valor, const String& catalogo);
 String explicaDifiere(int32_t dimension, const String& valor, const String& catalogo);
-String explicaIlegible(int32_t dimension, const String& texto, bool delCatalogo,
-                       const vb::RuntimeError& error);
+// CLng of a measure text; when it raises, the trace names the text (`que`: "The cabinet's
+// width") before the error goes on.
+int32_t medidaEntera(const String& texto, const String& que);
 String explicaRestaurada(int32_t dimension, const String& catalogo, bool anadida);
 
 }  // namespace rules

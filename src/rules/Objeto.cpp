@@ -2,6 +2,7 @@
 
 #include "host/Factory.h"
 #include "rules/Dimension.h"
+#include "rules/ExplicaDimension.h"
 #include "rules/ExplicaObjeto.h"
 #include "rules/Explicacion.h"
 #include "rules/Mensajes.h"
@@ -42,12 +43,9 @@ void anade(String& concatenar, const String& referencia) {
 
 // A measure as a whole number; a text that is none ends the check, and the trace names it.
 int32_t entero(int32_t dimension, const String& texto, bool delCatalogo) {
-    try {
-        return vb::CLng(texto);
-    } catch (const vb::RuntimeError& e) {
-        explica([&] { return explicaIlegible(dimension, texto, delCatalogo, e); });
-        throw;
-    }
+    const String que = delCatalogo ? u"The catalogue's " + nombreMedida(dimension) + u" (table 3)"
+                                   : u"The cabinet's " + nombreMedida(dimension);
+    return medidaEntera(texto, que);
 }
 
 // One dimension: decided only when its integer values differ; a refusal restores the
