@@ -46,6 +46,25 @@ add_test(NAME lint.samples
                  ${CMAKE_SOURCE_DIR})
 set_tests_properties(lint.samples PROPERTIES LABELS native)
 
+# The command line as a person meets it: help, usage mistakes, files that do not load.
+add_test(NAME quorbel_sim.command_line
+         COMMAND ${CMAKE_SOURCE_DIR}/tests/tools/check-cli $<TARGET_FILE:quorbel-sim>
+                 ${CMAKE_SOURCE_DIR})
+set_tests_properties(quorbel_sim.command_line PROPERTIES LABELS native)
+
+# The permission matrix page opened by headless Chromium, its rendered cells checked.
+add_test(NAME lint.matrix_page
+         COMMAND ${CMAKE_SOURCE_DIR}/tests/tools/check-matrix-page $<TARGET_FILE:quorbel-sim>
+                 ${CMAKE_SOURCE_DIR})
+set_tests_properties(lint.matrix_page PROPERTIES LABELS native TIMEOUT 300)
+
+# lint, the matrix and run --explain over the fuzz corpus, the goldens and the samples: no crash,
+# no hang, only their own exit codes.
+add_test(NAME quorbel_sim.any_world
+         COMMAND ${CMAKE_SOURCE_DIR}/tests/tools/check-any-world $<TARGET_FILE:quorbel-sim>
+                 ${CMAKE_SOURCE_DIR})
+set_tests_properties(quorbel_sim.any_world PROPERTIES LABELS native TIMEOUT 900)
+
 # Every sample must play through the runner (exit 0); under the sanitizers this is their check.
 file(GLOB samples CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/samples/*.json
                                     ${CMAKE_SOURCE_DIR}/samples/*/*.json)

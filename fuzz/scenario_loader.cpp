@@ -1,13 +1,16 @@
 // Scenario files, any bytes: either the loader refuses them with sim::ScenarioError naming the
-// place (what quorbel-sim turns into exit 2), or the scenario plays to a transcript with one
-// entry per call. Nothing else may leave the loader or the player, and no call may end in a C++
-// exception that is not a VB runtime error (the player reports those as "Automation error").
+// place (what quorbel-sim turns into exit 2), or the rule check and the permission matrix read
+// its world without failing and the scenario plays to a transcript with one entry per call. Nothing
+// else may leave the loader or the player, and no call may end in a C++ exception that is not a VB
+// runtime error (the player reports those as "Automation error").
 //
 // Worlds too large for a fuzzing run (many calls, objects or user actions) are loaded but not
 // played; that limit belongs to this target, not to the loader.
 #include <string>
 
 #include "FuzzCheck.h"
+#include "lint/Lint.h"
+#include "lint/Matrix.h"
 #include "native/RunScenario.h"
 #include "sim/ScenarioLoader.h"
 
@@ -55,6 +58,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
                    message.find(": ") != std::string::npos);
         return 0;
     }
+    for (const auto& finding : lint::lintWorld(scenario->world))
+        FUZZ_CHECK(!lint::describe(finding).empty());
+    const auto matrices = lint::permissionMatrix(scenario->world);
+    FUZZ_CHECK(!lint::matrixText(matrices).empty() && !lint::matrixHtml(matrices).empty());
     if (!smallEnoughToPlay(*scenario)) return -1;  // not kept in the corpus
     const size_t calls = scenario->calls.size();
     checkTranscript(native::runScenario(std::move(*scenario)), calls);

@@ -7,7 +7,9 @@
 //                                    the same with the simulated host failing (sim/Faults.h)
 //   quorbel-sim demo                 the bundled sample world, as text
 //   quorbel-sim lint FILE            the rule-table check of the scenario's catalogues
+//   quorbel-sim matrix [--html] FILE the permission matrix of its catalogues, as text or a page
 //   quorbel-sim --version            the project's version
+//   quorbel-sim --help               this usage, on standard output
 // Exit codes: 0 played, 2 bad input or usage, 1 an unexpected failure of the runner itself;
 // lint: 0 no finding, 1 findings, 2 bad input or usage.
 #include <exception>
@@ -17,6 +19,7 @@
 #include <vector>
 
 #include "LintCommand.h"
+#include "MatrixCommand.h"
 #include "QuorbelVersion.h"
 #include "Samples.h"
 #include "native/RunScenario.h"
@@ -31,7 +34,9 @@ const char* const kUsage =
     "usage: quorbel-sim run [--text] [--explain] [--literal] [FAULT OPTION...] FILE\n"
     "       quorbel-sim demo\n"
     "       quorbel-sim lint FILE\n"
-    "       quorbel-sim --version\n";
+    "       quorbel-sim matrix [--html] FILE\n"
+    "       quorbel-sim --version\n"
+    "       quorbel-sim --help\n";
 
 std::string jsonText(const sim::Json& transcript) {
     return transcript.dump(2, ' ', false, sim::Json::error_handler_t::replace) + "\n";
@@ -42,15 +47,30 @@ int usage() {
     return kBadInput;
 }
 
+// A usage mistake, named, then the usage.
+int usage(const std::string& mistake) {
+    std::cerr << "quorbel-sim: " << mistake << "\n";
+    return usage();
+}
+
+int help() {
+    std::cout << kUsage << sim::kFaultOptionsUsage;
+    return 0;
+}
+
+bool isOption(const std::string& arg) {
+    return arg.size() > 1 && arg[0] == '-';
+}
+
 int run(std::vector<std::string> args) {
     native::RunOptions options;
     try {
         sim::takeFaultOptions(args, options.faults);
     } catch (const std::invalid_argument& e) {
-        std::cerr << "quorbel-sim: " << e.what() << "\n";
-        return usage();
+        return usage(e.what());
     }
-    if (args.empty()) return usage();
+    if (args.empty()) return usage("run needs a scenario file");
+    if (isOption(args.back())) return usage("run needs a scenario file after " + args.back());
     bool text = false;
     bool literal = false;
     for (size_t i = 0; i + 1 < args.size(); ++i) {
@@ -60,13 +80,16 @@ int run(std::vector<std::string> args) {
             options.explain = true;
         } else if (args[i] == "--literal" && !literal) {
             literal = true;
+        } else if (isOption(args[i])) {
+            return usage("unknown or repeated option " + args[i]);
         } else {
-            return usage();
+            return usage("run takes one scenario file, not " + args[i] + " as well");
         }
     }
     if (literal) options.reads = host::ReadMode::Literal;
     const std::string& file = args.back();
-    const sim::Json transcript = native::runScenarioText(sim::readWholeFile(file), options);
+    const sim::Json transcript =
+        native::runScenario(std::move(*sim::loadScenarioFile(file)), options);
     std::cout << (text ? sim::textReport(transcript) : jsonText(transcript));
     return 0;
 }
@@ -94,15 +117,34 @@ int demo() {
     return 0;
 }
 
+// lint FILE, matrix [--html] FILE.
+int checkCommand(const std::string& command, std::vector<std::string> args) {
+    bool html = false;
+    if (command == "matrix" && !args.empty() && args[0] == "--html") {
+        html = true;
+        args.erase(args.begin());
+    }
+    for (const auto& arg : args)
+        if (isOption(arg)) return usage("unknown option " + arg + " for " + command);
+    if (args.size() != 1) return usage(command + " takes one scenario file");
+    return command == "lint" ? quorbel_sim::lint(args[0]) : quorbel_sim::matrix(args[0], html);
+}
+
 int dispatch(const std::vector<std::string>& args) {
-    if (!args.empty() && args[0] == "run") return run({args.begin() + 1, args.end()});
-    if (args.size() == 1 && args[0] == "demo") return demo();
-    if (args.size() == 2 && args[0] == "lint") return quorbel_sim::lint(args[1]);
-    if (args.size() == 1 && args[0] == "--version") {
+    if (args.empty()) return usage();
+    const std::string& command = args[0];
+    const std::vector<std::string> rest(args.begin() + 1, args.end());
+    for (const auto& arg : args)
+        if (arg == "--help" || arg == "-h") return help();
+    if (command == "run") return run(rest);
+    if (command == "lint" || command == "matrix") return checkCommand(command, rest);
+    if (command == "demo") return rest.empty() ? demo() : usage("demo takes no argument");
+    if (command == "--version" && rest.empty()) {
         std::cout << "quorbel-sim " QUORBEL_VERSION_TEXT "\n";
         return 0;
     }
-    return usage();
+    if (isOption(command)) return usage("unknown option " + command);
+    return usage("unknown command " + command);
 }
 
 }  // namespace

@@ -1,6 +1,8 @@
 #include "dialog/Apertura.h"
 
+#include "dialog/Explicaciones.h"
 #include "dialog/frmEspEnc.h"
+#include "rules/Explicacion.h"
 #include "rules/ModVariables.h"
 #include "vb/Conversions.h"
 
@@ -16,6 +18,7 @@ void muestraDialogo(env::Env& env) {
 
 void avisaErrorComponentes(platform::Platform& platform, const vb::RuntimeError& error) {
     const vb::String numero = vb::numberText(error.number());
+    rules::explica([&] { return explicaErrorAtrapado(error); });
     if (error.number() == vb::err::kTypeMismatch) {
         platform.messageBox(u"Error " + numero + u": " + error.description(), kCaptionAtencion,
                             platform::MsgIcon::Information);

@@ -45,6 +45,15 @@ String explicaTipo(const TipoOfrecido& t) {
            u".";
 }
 
+String explicaErrorAtrapado(const vb::RuntimeError& error) {
+    String texto =
+        u"The call stops at error " + numero(error.number()) + u" (" + error.description() + u")";
+    if (error.text()) {
+        texto += u": the text " + entreComillas(*error.text()) + u" cannot be read as a number";
+    }
+    return texto + u"; the error is shown in a message and the call returns true.";
+}
+
 String explicaTipoOculto(int tipo, int medida, int32_t informacion) {
     return u"Type " + rules::nombreTipo(tipo) + u" is hidden: the cabinet cannot vary its " +
            kMedidas[medida] + u" (information " + numero(informacion) + u" is false).";

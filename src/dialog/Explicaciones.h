@@ -3,6 +3,7 @@
 // components left out of the lists, and the accept step's checks.
 #include <cstdint>
 
+#include "vb/Errors.h"
 #include "vb/Variant.h"
 
 namespace dialog {
@@ -25,6 +26,10 @@ String explicaDiagonal(const String& code, int32_t id);
 String explicaLimites(const String& nMin, double lo, const String& nMax, double hi,
                       const String& medida, const String& valor);
 String explicaScriptIlegible(const String& descripcion);
+
+// An error the components handler traps and shows, with the text that failed when a
+// conversion raised it.
+String explicaErrorAtrapado(const vb::RuntimeError& error);
 
 // The accept step: one measure box against the cabinet's limits.
 String explicaMedida(int k, const String& texto, double min, double max, bool dentro, bool anotada);

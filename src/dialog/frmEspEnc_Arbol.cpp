@@ -123,8 +123,10 @@ void frmEspEnc::clasificaHijo(int32_t child, bool& tieneHijos, std::array<int16_
     if (nivel == 0) {
         for (size_t k = 0; k < mv_.prefijosEsp.size() && k < mv_.hayHijoEsp.size(); ++k)
             if (!mv_.prefijosEsp[k].empty() &&
-                vb::InStr(code, mv_.prefijosEsp[k], vb::Compare::Text) > 0)
+                vb::InStr(code, mv_.prefijosEsp[k], vb::Compare::Text) > 0) {
                 mv_.hayHijoEsp[k] = true;
+                mv_.hijosHallados[k] = {child, -2, rules::llamadaExplicada()};
+            }
     }
     if (!fits) {
         rules::explica([&] {

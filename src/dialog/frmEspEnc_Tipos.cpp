@@ -7,6 +7,7 @@
 #include "dialog/Teclado.h"
 #include "dialog/frmEspEnc.h"
 #include "rules/Explicacion.h"
+#include "rules/Modelos.h"
 #include "rules/Refresco.h"
 #include "vb/Conversions.h"
 #include "vb/Strings.h"
@@ -27,15 +28,9 @@ void frmEspEnc::ofreceTipos() {
     auto& scene = use(mv_.miScene);
     String modelo = vb::CStr(scene.ObjectGetInfo(mv_.miSessionId, -2, 64));
     String referencia = vb::CStr(scene.ObjectGetInfo(mv_.miSessionId, -2, 8));
-    size_t r = 0;
-    bool hallado = false;
-    for (size_t i = 0; i < static_cast<size_t>(std::max<int>(mv_.numModelos, 0)); ++i) {
-        if (i < mv_.modelos.size() && vb::equalText(mv_.modelos[i], modelo)) {
-            r = i;
-            hallado = true;
-            break;
-        }
-    }
+    const auto fila = rules::filaDelModelo(mv_.modelos, mv_.numModelos, modelo, true);
+    const size_t r = static_cast<size_t>(fila.value_or(0));
+    const bool hallado = fila.has_value();
     for (int k = 0; k < 7; ++k) {
         bool excepcion = rules::estaEnLista(referencia, mv_.excepciones[k]);
         bool permiso = r < mv_.permisosModelo.size() &&

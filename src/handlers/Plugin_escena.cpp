@@ -56,6 +56,24 @@ String explicaCatalogo(int32_t id, int16_t catalogo, bool nuevo) {
                   : u", as the object before: the rules prepared for it are used again.");
 }
 
+// The summary's texts are translated or not by the languages read when the check began: the
+// catalogue current then, not those the check loads.
+String explicaResumen(const Idiomas& idiomas, const String& mensaje) {
+    if (mensaje.empty()) return u"No cabinet was refused: no summary is shown.";
+    const String aplicacion = rules::entreComillas(idiomas.aplicacion);
+    const String catalogo = rules::entreComillas(idiomas.catalogo);
+    return u"Summary TR_9017 shown (caption TR_9001) with the refused references " +
+           rules::entreComillas(mensaje) + u"; " +
+           (idiomas.traducir
+                ? u"its texts go through the dictionary, as the application's language "
+                : u"its texts are shown as the catalogue writes them, as the "
+                  u"application's language ") +
+           aplicacion + (idiomas.traducir ? u" differs from " : u" is also ") + u"the language " +
+           catalogo +
+           u" of the catalogue that was current when the check began (read once, before any "
+           u"cabinet's catalogue was loaded; letter case counts).";
+}
+
 bool esSuperior(int32_t parent) {
     return parent == -1 || parent == -2;
 }
@@ -97,6 +115,7 @@ bool Plugin::OnSceneGenericFinishesAfter(int32_t lCallParamsBlock) {
         int16_t funcion = 4;
         procesaObjetoSesion(*this, {lCallParamsBlock, true}, id, mensaje, funcion, nuevo);
     }
+    rules::explica([&] { return explicaResumen(idiomas, mensaje); });
     if (!mensaje.empty()) {
         const String text = traduce(idiomas, textoCatalogo(u"TR_9017"));
         const String title = traduce(idiomas, textoCatalogo(u"TR_9001"));

@@ -34,5 +34,7 @@ void checkMatrix(const Subject& s, Report& r);       // door models that no kind
 void checkExceptions(const Subject& s, Report& r);   // EX_ lines as the rules read them
 void checkTexts(const Subject& s, Report& r);        // TR_ keys of the messages and the dialog
 void checkArticles(const Subject& s, Report& r);     // table-3 measures the rules can read
+void checkPlacementReading(const Subject& s, Report& r);  // lines a placement reads otherwise
+void checkSceneModels(const Subject& s, Report& r);  // cabinets' door models, placement and dialog
 
 }  // namespace lint

@@ -28,14 +28,14 @@ bool startsWith(const String& code, const char16_t* prefix) {
 
 std::vector<String> allCodes(bool permission) {
     std::vector<String> codes;
-    for (const auto& kind : kKinds) codes.push_back(permission ? kind.permission : kind.exception);
+    for (const auto& kind : kinds()) codes.push_back(permission ? kind.permission : kind.exception);
     return codes;
 }
 
 // MO_ codes write width and height as "AAl", EX_ codes as "AA": the other spelling is an
 // easy slip.
 String otherSpelling(const String& code) {
-    for (const auto& kind : kKinds) {
+    for (const auto& kind : kinds()) {
         const String permission = kind.permission, exception = kind.exception;
         if (vb::equalText(code, u"MO_" + exception.substr(3)))
             return u"the permission code for " + String(kind.name) + u" is " + permission +

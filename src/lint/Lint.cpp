@@ -24,8 +24,9 @@ class DecimalSeparator {
 };
 
 using Check = void (*)(const Subject&, Report&);
-constexpr Check kChecks[] = {checkLineCodes,  checkPermissions, checkModels,  checkMatrix,
-                             checkExceptions, checkTexts,       checkArticles};
+constexpr Check kChecks[] = {checkLineCodes, checkPermissions, checkModels,
+                             checkMatrix,    checkExceptions,  checkPlacementReading,
+                             checkTexts,     checkArticles,    checkSceneModels};
 
 }  // namespace
 

@@ -1,54 +1,72 @@
-// The permission matrix as the rules fill it: a door model may have a kind of special when
-// the kind's MO_ line says " ALL", or lists a table-8 code whose model name is the model's.
+// Door models that no MO_ line read at placement permits: every change of such a cabinet that a
+// line decides is refused.
 #include <set>
 
-#include "lint/Reading.h"
+#include "lint/Placement.h"
 
 namespace lint {
 
 namespace {
 
-bool permits(const Subject& s, const sim::TableLine& rule, const String& model) {
-    const RuleText read = readRule(cell(rule, 2));
-    if (read.rest == u" ALL") return true;
-    for (const auto& code : read.pieces) {
-        const sim::TableLine* line = lineByCode(s.table(8), code);
-        if (line && cell(*line, 3) == model) return true;
+// The kinds that permit the model, split by whether a placement ever reads their line.
+struct Permitted {
+    std::vector<String> atPlacement, dialogOnly;
+};
+
+Permitted permittedKinds(const Subject& s, const String& model) {
+    Permitted p;
+    for (const auto& kind : kinds()) {
+        if (!permits(s, kind, model)) continue;
+        auto& into =
+            usesOf(Decision::Permissions, kind.index).empty() ? p.dialogOnly : p.atPlacement;
+        into.push_back(kind.permission);
     }
-    return false;
+    return p;
 }
 
-bool anyKindPermits(const Subject& s, const std::vector<const sim::TableLine*>& rules,
-                    const String& model) {
-    for (const auto* rule : rules)
-        if (permits(s, *rule, model)) return true;
-    return false;
+// The MO_ codes a placement reads.
+std::vector<String> placementCodes() {
+    std::vector<String> codes;
+    for (const auto& kind : kinds())
+        if (!usesOf(Decision::Permissions, kind.index).empty()) codes.push_back(kind.permission);
+    return codes;
+}
+
+String refusedModel(const String& model, const Permitted& p) {
+    String text = u"no MO_ line that a placement reads permits the door model " + quoted(model) +
+                  u" (none of " + joined(placementCodes()) +
+                  u" lists a table-8 code whose model name is " + quoted(model) +
+                  u" or says ALL): at placement a change of such a cabinet is refused "
+                  u"wherever an MO_ line decides it (a measure whose deciding marker child the "
+                  u"cabinet does not carry stays), unless the exception list searched names the "
+                  u"cabinet";
+    if (p.dialogOnly.empty())
+        return text +
+               u"; the special-editing dialog offers it only the types whose exception "
+               u"lists name the cabinet";
+    return text + u"; the special-editing dialog still offers it the types of " +
+           joined(p.dialogOnly) + u", lines a placement never reads";
 }
 
 }  // namespace
 
 void checkMatrix(const Subject& s, Report& r) {
-    std::vector<const sim::TableLine*> rules;
-    for (const auto& kind : kKinds)
-        if (const auto* line = lineByCode(s.table(2), kind.permission)) rules.push_back(line);
-    if (rules.empty()) return;  // told once by the permission check
+    bool anyLine = false;
+    for (const auto& kind : kinds()) anyLine = anyLine || ruleOf(s, kind).has_value();
+    if (!anyLine) return;  // told once by the permission check
     if (doorModels(s.table(8)).empty()) {
         r.finding(8, String(),
                   u"no door model: a door model is a line whose model name (column 3) does not "
-                  u"begin with \"@\" and whose script (column 4) is not empty; without one, "
-                  u"every change of a measure is refused, whatever the MO_ lines say");
+                  u"begin with \"@\" and whose script (column 4) is not empty; without one, no "
+                  u"door model is permitted any kind, whatever the MO_ lines say");
         return;
     }
     std::set<String> seen;
     for (const auto* line : linesOf(s.table(8))) {
         const String model = cell(*line, 3);
         if (!isDoorModel(*line) || !seen.insert(model).second) continue;
-        if (anyKindPermits(s, rules, model)) continue;
-        r.finding(8, modelPlace(*line),
-                  u"no kind of special permits the door model " + quoted(model) +
-                      u": no MO_ line lists a table-8 code whose model name is " + quoted(model) +
-                      u" and none says ALL, so every change of its measures is refused, unless "
-                      u"an exception list names the cabinet");
+        const Permitted p = permittedKinds(s, model);
+        if (p.atPlacement.empty()) r.finding(8, modelPlace(*line), refusedModel(model, p));
     }
 }
 

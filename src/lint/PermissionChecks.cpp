@@ -2,19 +2,13 @@
 // of table-8 line codes split at single blanks.
 #include <set>
 
-#include "lint/Reading.h"
+#include "lint/Placement.h"
 #include "vb/Conversions.h"
 #include "vb/Strings.h"
 
 namespace lint {
 
 namespace {
-
-String refusedForAll(const Kind& kind) {
-    return String(kind.name) +
-           u" specials are refused for every door model, unless an exception list names the "
-           u"cabinet";
-}
 
 // Where else table 8 holds the code, when it is not a line code.
 String codeHint(const Subject& s, const String& code) {
@@ -100,10 +94,11 @@ void checkLayout(const Subject& s, const String& code, const String& text, const
                       u", which are a table-8 code: the list begins after three characters of "
                       u"its own, as in \"MO: M01 M02\"");
     if (!rule.blankFourth())
-        r.finding(2, code,
+        r.warning(2, code,
                   u"the fourth character of the rule text " + quoted(text) +
-                      u" is not a blank: the rules skip the first three characters (" +
-                      quoted(rule.skipped) + u") and read the codes " + joinedQuoted(rule.named()));
+                      u" is not a blank; the rules skip the first three characters (" +
+                      quoted(rule.skipped) + u") all the same and read the codes " +
+                      joinedQuoted(rule.named()));
     if (rule.emptyPiecesAfterFirst())
         r.warning(2, code,
                   u"two blanks in a row, or a blank at the end, in " + quoted(text) +
@@ -116,15 +111,15 @@ void checkLine(const Subject& s, const Kind& kind, const sim::TableLine& line, R
     const String code = kind.permission;
     if (text.empty())
         return r.finding(2, code,
-                         u"the line has no rule text in column 2, so " + refusedForAll(kind));
+                         u"the line has no rule text in column 2, so " + nonePermitted(kind));
     const RuleText rule = readRule(text);
     if (rule.rest.empty())
         return r.finding(2, code,
                          u"the rule text " + quoted(text) +
                              u" is shorter than four characters; the rules skip the first "
                              u"three and find no code, so " +
-                             refusedForAll(kind));
-    if (rule.rest == u" ALL") return checkAllForWizard(s, kind, r);
+                             nonePermitted(kind));
+    if (rule.all) return checkAllForWizard(s, kind, r);
     if (vb::equalText(vb::Trim(rule.rest), u"ALL"))
         return r.finding(2, code,
                          u"the rule text " + quoted(text) +
@@ -140,7 +135,7 @@ void checkLine(const Subject& s, const Kind& kind, const sim::TableLine& line, R
 
 void checkPermissions(const Subject& s, Report& r) {
     std::vector<const Kind*> missing;
-    for (const auto& kind : kKinds) {
+    for (const auto& kind : kinds()) {
         const sim::TableLine* line = lineByCode(s.table(2), kind.permission);
         if (line) {
             checkLine(s, kind, *line, r);
@@ -148,14 +143,17 @@ void checkPermissions(const Subject& s, Report& r) {
             missing.push_back(&kind);
         }
     }
-    if (missing.size() == kKinds.size()) {
+    if (missing.size() == kinds().size()) {
         r.warning(2, String(),
-                  u"no permission line (MO_EA to MO_EAAlF): every change of a measure is "
-                  u"refused for every door model, unless an exception list names the cabinet");
+                  u"no permission line (MO_EA to MO_EAAlF): no door model is permitted any kind, "
+                  u"so at placement a change is refused wherever an MO_ line would decide it (a "
+                  u"measure whose deciding marker child the cabinet does not carry stays), unless "
+                  u"the exception list searched names the cabinet, and the special-editing dialog "
+                  u"offers only the types whose exception lists name the cabinet");
         return;
     }
     for (const Kind* kind : missing)
-        r.warning(2, kind->permission, u"no such line: " + refusedForAll(*kind));
+        r.warning(2, kind->permission, u"no such line, so " + nonePermitted(*kind));
 }
 
 }  // namespace lint

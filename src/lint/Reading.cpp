@@ -1,19 +1,32 @@
 #include "lint/Reading.h"
 
+#include "rules/ExplicaDimension.h"
 #include "rules/Modelos.h"
 #include "vb/Strings.h"
 
 namespace lint {
 
-const std::array<Kind, 7> kKinds = {{
-    {u"MO_EA", u"EX_EA", u"width"},
-    {u"MO_EAl", u"EX_EAl", u"height"},
-    {u"MO_EF", u"EX_EF", u"depth"},
-    {u"MO_EAAl", u"EX_EAA", u"width and height"},
-    {u"MO_EAF", u"EX_EAF", u"width and depth"},
-    {u"MO_EAlF", u"EX_EAlF", u"height and depth"},
-    {u"MO_EAAlF", u"EX_EAAF", u"width, height and depth"},
-}};
+const std::array<Kind, 7>& kinds() {
+    static const std::array<Kind, 7> all = [] {
+        constexpr const char16_t* kNames[] = {u"width",
+                                              u"height",
+                                              u"depth",
+                                              u"width and height",
+                                              u"width and depth",
+                                              u"height and depth",
+                                              u"width, height and depth"};
+        std::array<Kind, 7> out;
+        for (int k = 0; k < 7; ++k)
+            out[k] = {k,
+                      rules::codigoMO(k),
+                      rules::codigoEX(k),
+                      rules::nombreTipo(k),
+                      rules::prefijoTipo(k),
+                      kNames[k]};
+        return out;
+    }();
+    return all;
+}
 
 String cell(const sim::TableLine& line, int column) {
     const auto it = line.cols.find(column);
@@ -49,11 +62,8 @@ std::vector<String> RuleText::named() const {
 }
 
 RuleText readRule(const String& text) {
-    RuleText r;
-    r.skipped = text.substr(0, 3);
-    r.rest = text.size() > 3 ? text.substr(3) : String();
-    r.pieces = vb::Split(r.rest, u" ");
-    return r;
+    const rules::ReglaLeida read = rules::leeRegla(text);
+    return {text.substr(0, 3), read.resto, read.piezas, read.todos};
 }
 
 bool isDoorModel(const sim::TableLine& line) {
@@ -69,6 +79,24 @@ std::vector<String> doorModels(const sim::Table* table8) {
     for (const auto* line : linesOf(table8))
         if (isDoorModel(*line)) names.push_back(cell(*line, 3));
     return names;
+}
+
+rules::NombreDeCodigo modelNameOf(const sim::Table* table8) {
+    return [table8](const String& code) -> std::optional<String> {
+        const sim::TableLine* line = lineByCode(table8, code);
+        if (!line) return std::nullopt;
+        return cell(*line, 3);
+    };
+}
+
+std::optional<String> ruleOf(const Subject& s, const Kind& kind) {
+    const sim::TableLine* line = lineByCode(s.table(2), kind.permission);
+    if (!line) return std::nullopt;
+    return cell(*line, 2);
+}
+
+bool permits(const Subject& s, const Kind& kind, const String& model) {
+    return rules::reglaPermite(ruleOf(s, kind), model, true, modelNameOf(s.table(8)));
 }
 
 namespace {

@@ -68,7 +68,7 @@ const std::vector<TextKey>& textKeys() {
 const std::vector<String>& codesRead() {
     static const std::vector<String> codes = [] {
         std::vector<String> all;
-        for (const auto& kind : kKinds) {
+        for (const auto& kind : kinds()) {
             all.push_back(kind.permission);
             all.push_back(kind.exception);
         }

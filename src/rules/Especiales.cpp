@@ -4,6 +4,7 @@
 #include <optional>
 #include <vector>
 
+#include "rules/LecturaReglas.h"
 #include "vb/Conversions.h"
 #include "vb/Strings.h"
 
@@ -19,23 +20,15 @@ std::optional<String> reglaDe(int32_t& sessionId, host::Catalog& catalog, const 
     return vb::CStr(catalog.TableGetLineInfo(sessionId, 2, 0, rank, 2));
 }
 
-// The rule's text after its first three characters.
-String restoDe(const String& regla) {
-    return regla.size() > 3 ? regla.substr(3) : String();
-}
-
-// Some listed code, looked up in table 8 in list order, names the model; the list stops at
-// the first that does.
-bool codigoNombra(int32_t& sessionId, host::Catalog& catalog, const std::vector<String>& codes,
-                  const String& model) {
-    for (const auto& code : codes) {
+// Table 8 through the host: the model name of the line with that code, asked only for a
+// line that exists.
+NombreDeCodigo nombreEnTabla8(int32_t& sessionId, host::Catalog& catalog) {
+    return [&sessionId, &catalog](const String& code) -> std::optional<String> {
         const int32_t r =
             vb::CLng(catalog.TableGetLineRankFromCode(sessionId, 8, 0, 1, code, false));
-        if (r > 0 && vb::CStr(catalog.TableGetLineInfo(sessionId, 8, 0, r, 3)) == model) {
-            return true;
-        }
-    }
-    return false;
+        if (r <= 0) return std::nullopt;
+        return vb::CStr(catalog.TableGetLineInfo(sessionId, 8, 0, r, 3));
+    };
 }
 
 const String& modeloDe(const ModVariables& mv, int m) {
@@ -52,22 +45,21 @@ void llenaTipo(ModVariables& mv, int k, int32_t& sessionId, host::Catalog& catal
                const String& code) {
     const auto regla = reglaDe(sessionId, catalog, code);
     if (!regla) return marcaTodos(mv, k, false);
-    const String rest = restoDe(*regla);
-    if (rest == u" ALL") return marcaTodos(mv, k, true);
-    const auto codes = vb::Split(rest, u" ");
+    const ReglaLeida leida = leeRegla(*regla);
+    if (leida.todos) return marcaTodos(mv, k, true);
+    const auto nombreDe = nombreEnTabla8(sessionId, catalog);
     for (int m = 0; m < mv.numModelos; ++m) {
-        mv.permisosModelo[m][k] = codigoNombra(sessionId, catalog, codes, modeloDe(mv, m));
+        mv.permisosModelo[m][k] = codigosNombran(leida.piezas, modeloDe(mv, m), nombreDe);
     }
 }
 
 // No " ALL" rule, and the permission line looked up again for every model.
 void llenaTipoPorModelo(ModVariables& mv, int k, int32_t& sessionId, host::Catalog& catalog,
                         const String& code) {
+    const auto nombreDe = nombreEnTabla8(sessionId, catalog);
     for (int m = 0; m < mv.numModelos; ++m) {
         const auto regla = reglaDe(sessionId, catalog, code);
-        mv.permisosModelo[m][k] =
-            regla &&
-            codigoNombra(sessionId, catalog, vb::Split(restoDe(*regla), u" "), modeloDe(mv, m));
+        mv.permisosModelo[m][k] = reglaPermite(regla, modeloDe(mv, m), false, nombreDe);
     }
 }
 

@@ -1,6 +1,7 @@
 #include "rules/ExplicaDimension.h"
 
 #include <array>
+#include <utility>
 
 #include "rules/Explicacion.h"
 #include "vb/Conversions.h"
@@ -22,13 +23,54 @@ String numero(int32_t n) {
     return vb::numberText(n);
 }
 
+// The texts of a measure: the cabinet's and the catalogue's.
+std::pair<String, String> textosDe(const Medidas& m, int32_t medida) {
+    switch (medida) {
+        case 12:
+            return {m.x1, m.x2};
+        case 13:
+            return {m.y1, m.y2};
+        default:
+            return {m.z1, m.z2};
+    }
+}
+
+// The tables compare the other measure as text: say so when its whole numbers are equal.
+String otraDifiere(const Medidas& m, int32_t medida) {
+    const auto [valor, catalogo] = textosDe(m, medida);
+    String texto = u"the " + nombreMedida(medida) + u" differs too";
+    try {
+        if (vb::CLng(vb::Variant(valor)) != vb::CLng(vb::Variant(catalogo))) return texto;
+    } catch (const vb::RuntimeError&) {
+        return texto;
+    }
+    return texto + u" as text (" + entreComillas(valor) + u" against the catalogue's " +
+           entreComillas(catalogo) +
+           u"; as whole numbers they are equal, but here the texts are compared)";
+}
+
+// Where and when the height marker that hayHijoEsp(1) remembers was found.
+String hijoAltoHallado(const ModVariables& mv) {
+    const HijoHallado& h = mv.hijosHallados[1];
+    String texto = u"a child named with \"EAl_\" has been found";
+    if (h.llamada == 0) return texto;
+    const bool estaLlamada = h.llamada == llamadaExplicada();
+    const String objeto = h.objeto != -2 ? u"object " + numero(h.objeto)
+                          : estaLlamada  ? String(u"this call's cabinet")
+                                         : String(u"the cabinet of that call");
+    texto += u": child " + numero(h.hijo) + u", among the children of " + objeto;
+    if (estaLlamada) return texto + u", in this call";
+    return texto + u", in an earlier call (call " + numero(static_cast<int32_t>(h.llamada)) +
+           u" of this trace), and the rules remember it for every later cabinet";
+}
+
 // Why a row matched: the other dimension's difference and the marker it found.
-String motivo(const ModVariables& mv, const Fila& f) {
-    if (f.marca == kHayHijoAlto) return u"a child named with \"EAl_\" has been found";
-    String marca = u"child " + numero(mv.idsHijosEsp[f.marca]) + u" carries the marker " +
+String motivo(const Porque& p, const Fila& f) {
+    if (f.marca == kHayHijoAlto) return hijoAltoHallado(p.mv);
+    String marca = u"child " + numero(p.mv.idsHijosEsp[f.marca]) + u" carries the marker " +
                    entreComillas(kPrefijos[f.marca]);
     if (f.otraMedida == 0) return marca;
-    return u"the " + nombreMedida(f.otraMedida) + u" differs too and " + marca;
+    return otraDifiere(p.medidas, f.otraMedida) + u" and " + marca;
 }
 
 String sinMarca(int marca) {
@@ -74,13 +116,13 @@ String nombreMedida(int32_t dimension) {
     }
 }
 
-String explicaExcepcion(const ModVariables& mv, int32_t dimension, const Fila& lista,
-                        const String& ref, bool listada) {
+String explicaExcepcion(const Porque& p, int32_t dimension, const Fila& lista, const String& ref,
+                        bool listada) {
     const String medida = mayusculaInicial(nombreMedida(dimension));
     if (lista.valor == kNinguna) {
         return medida + u": no exception list is searched, as " + sinMarca(lista.marca) + u".";
     }
-    const auto& elementos = mv.excepciones[lista.valor];
+    const auto& elementos = p.mv.excepciones[lista.valor];
     String veredicto;
     if (listada) {
         veredicto = u"it is listed, so the " + nombreMedida(dimension) + u" may stay.";
@@ -92,8 +134,8 @@ String explicaExcepcion(const ModVariables& mv, int32_t dimension, const Fila& l
         veredicto = u"it is not listed.";
     }
     return medida + u": exception list " + String(kCodigosEX[lista.valor]) +
-           u" is searched for reference " + entreComillas(ref) + u" (" + motivo(mv, lista) +
-           u"); " + veredicto;
+           u" is searched for reference " + entreComillas(ref) + u" (" + motivo(p, lista) + u"); " +
+           veredicto;
 }
 
 String explicaSinMarca(int32_t dimension, int marca) {
@@ -101,11 +143,11 @@ String explicaSinMarca(int32_t dimension, int marca) {
            u", so no door-model permission applies.";
 }
 
-String explicaPermiso(const ModVariables& mv, int32_t dimension, const Fila& kind,
-                      const String& model, int fila, bool permitido) {
+String explicaPermiso(const Porque& p, int32_t dimension, const Fila& kind, const String& model,
+                      int fila, bool permitido) {
     return mayusculaInicial(nombreMedida(dimension)) + u": kind " + String(kNombres[kind.valor]) +
-           u" (line " + String(kCodigosMO[kind.valor]) + u") decides, as " + motivo(mv, kind) +
-           u"; " + modeloDecide(mv, model, fila) + u"; " + String(kCodigosMO[kind.valor]) +
+           u" (line " + String(kCodigosMO[kind.valor]) + u") decides, as " + motivo(p, kind) +
+           u"; " + modeloDecide(p.mv, model, fila) + u"; " + String(kCodigosMO[kind.valor]) +
            (permitido ? u" permits it: the " : u" does not permit it: the ") +
            nombreMedida(dimension) + (permitido ? u" may stay." : u" is refused.");
 }

@@ -3,6 +3,7 @@
 // searched and why, which kind of special and door-model permission decided.
 #include <cstdint>
 
+#include "rules/Dimension.h"
 #include "rules/ModVariables.h"
 
 namespace rules {
@@ -20,11 +21,17 @@ struct Fila {
     int marca = kSinMarca;
 };
 
-String explicaExcepcion(const ModVariables& mv, int32_t dimension, const Fila& lista,
-                        const String& ref, bool listada);
+// What a decision's reasons are read from: the rule tables and the measures compared.
+struct Porque {
+    const ModVariables& mv;
+    const Medidas& medidas;
+};
+
+String explicaExcepcion(const Porque& p, int32_t dimension, const Fila& lista, const String& ref,
+                        bool listada);
 String explicaSinMarca(int32_t dimension, int marca);
-String explicaPermiso(const ModVariables& mv, int32_t dimension, const Fila& kind,
-                      const String& model, int fila, bool permitido);
+String explicaPermiso(const Porque& p, int32_t dimension, const Fila& kind, const String& model,
+                      int fila, bool permitido);
 
 // "width", "depth" or "height" for information 12, 13, 14.
 String nombreMedida(int32_t dimension);

@@ -2,6 +2,7 @@
 
 #include "rules/ExplicaDimension.h"
 #include "rules/Explicacion.h"
+#include "vb/Conversions.h"
 
 namespace rules {
 
@@ -35,6 +36,25 @@ String explicaIgualEntero(int32_t dimension, const String& valor, const String& 
 String explicaDifiere(int32_t dimension, const String& valor, const String& catalogo) {
     return mayusculaInicial(nombreMedida(dimension)) + u" " + entreComillas(valor) +
            u" differs from the catalogue's " + entreComillas(catalogo) + u".";
+}
+
+namespace {
+
+String ilegible(const String& que, const String& texto, const vb::RuntimeError& error) {
+    return que + u" " + entreComillas(texto) +
+           u" cannot be read as a whole number: the check stops with error " +
+           vb::numberText(error.number()) + u" (" + error.description() + u").";
+}
+
+}  // namespace
+
+int32_t medidaEntera(const String& texto, const String& que) {
+    try {
+        return vb::CLng(texto);
+    } catch (const vb::RuntimeError& e) {
+        explica([&] { return ilegible(que, texto, e); });
+        throw;
+    }
 }
 
 String explicaRestaurada(int32_t dimension, const String& catalogo, bool anadida) {

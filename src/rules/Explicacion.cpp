@@ -1,5 +1,6 @@
 #include "rules/Explicacion.h"
 
+#include "rules/ModVariables.h"
 #include "vb/Conversions.h"
 
 namespace rules {
@@ -14,7 +15,12 @@ Explicacion* explicacion() {
     return sinkActual;
 }
 
+unsigned llamadaExplicada() {
+    return modVariables().llamadasExplicadas;
+}
+
 ExplicacionActiva::ExplicacionActiva(Explicacion* sink) : anterior_(sinkActual) {
+    if (sink && !anterior_) ++modVariables().llamadasExplicadas;
     sinkActual = sink;
 }
 

@@ -32,6 +32,11 @@ class ExplicacionActiva {
     Explicacion* anterior_;
 };
 
+// The number of the call being traced on this thread (1 for the first call with a sink since
+// the shared context was last set anew), so that a trace can say in which call an earlier
+// decision was taken; 0 before any.
+unsigned llamadaExplicada();
+
 // Records one decision; `texto` (a callable giving a String) runs only when a sink listens.
 // A text that cannot be built is left out: the trace never changes what a call does.
 template <class F>

@@ -19,6 +19,14 @@ constexpr int kNumTipos = 7;  // kinds of special: ANCHO, ALTO, FONDO, ANCHO_ALT
 
 using ListaExcepciones = std::optional<std::vector<String>>;  // nullopt: never filled
 
+// Where a hayHijoEsp entry was last set, for the trace only: the child, the object whose
+// children were looked at, and the traced call (llamadaExplicada; 0: none) it happened in.
+struct HijoHallado {
+    int32_t hijo = 0;
+    int32_t objeto = 0;
+    unsigned llamada = 0;
+};
+
 struct ModVariables {
     host::AppliRef miAppli;
     host::SceneRef miScene;
@@ -32,6 +40,8 @@ struct ModVariables {
     std::vector<String> codigosMO;         // entries 0..7 once InicEsp ran (7 stays empty)
     std::array<int32_t, 8> idsHijosEsp{};  // marker child per kind; entry 7 never written
     std::array<bool, kNumTipos> hayHijoEsp{};
+    std::array<HijoHallado, kNumTipos> hijosHallados{};
+    unsigned llamadasExplicadas = 0;  // calls traced on this thread, for llamadaExplicada
     int16_t numTiposEsp = 0;
 
     std::vector<String> modelos;  // entries past numModelos - 1 may be stale

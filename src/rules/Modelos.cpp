@@ -1,7 +1,9 @@
 #include "rules/Modelos.h"
 
+#include <algorithm>
 #include <array>
 
+#include "rules/LecturaReglas.h"
 #include "vb/Conversions.h"
 #include "vb/Strings.h"
 
@@ -28,6 +30,15 @@ bool modeloValido(const String& refer, const String& /*code*/, const String& scr
     return vb::Left(refer, 1) != u"@" && !script.empty();
 }
 
+std::optional<int> filaDelModelo(const std::vector<String>& modelos, int numModelos,
+                                 const String& modelo, bool ignorarMayusculas) {
+    const int n = std::min<int>(numModelos, static_cast<int>(modelos.size()));
+    for (int m = 0; m < n; ++m) {
+        if (ignorarMayusculas ? vb::equalText(modelos[m], modelo) : modelos[m] == modelo) return m;
+    }
+    return std::nullopt;
+}
+
 ExcepcionesLeidas GenExcepciones(int32_t& sessionId, host::Catalog& catalog) {
     static const std::array<const char16_t*, kNumTipos> kCodigos = {
         u"EX_EA", u"EX_EAl", u"EX_EF", u"EX_EAA", u"EX_EAF", u"EX_EAlF", u"EX_EAAF"};
@@ -38,9 +49,8 @@ ExcepcionesLeidas GenExcepciones(int32_t& sessionId, host::Catalog& catalog) {
             vb::CLng(catalog.TableGetLineRankFromCode(sessionId, 2, 0, 1, kCodigos[k], false));
         const String text = vb::CStr(catalog.TableGetLineInfo(sessionId, 2, 0, rank, 2));
         // An empty text keeps the list as it was, possibly the previous catalogue's.
-        if (text.empty()) continue;
-        leidas[k] = vb::Split(text.size() > 3 ? text.substr(3) : String(), u" ");
-        mv.excepciones[k] = leidas[k];
+        leidas[k] = leeExcepcion(text);
+        if (leidas[k]) mv.excepciones[k] = leidas[k];
     }
     return leidas;
 }

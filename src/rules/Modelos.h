@@ -12,6 +12,12 @@ namespace rules {
 
 void GenModEsp(int32_t& sessionId, host::Catalog& catalog);  // modelos, numModelos
 bool modeloValido(const String& refer, const String& code, const String& script);
+
+// The row of permisosModelo for a door model: the first of modelos(0..numModelos-1) with that
+// name, compared exactly (a placement) or ignoring letter case (the special-editing dialog);
+// nothing when none has it (row 0 is then used).
+std::optional<int> filaDelModelo(const std::vector<String>& modelos, int numModelos,
+                                 const String& modelo, bool ignorarMayusculas);
 // What GenExcepciones did to each kind's list: the list it put in, or nothing where an empty
 // text kept the list as it was.
 using ExcepcionesLeidas = std::array<std::optional<std::vector<String>>, kNumTipos>;

@@ -2,6 +2,7 @@
 
 #include "host/Factory.h"
 #include "rules/Dimension.h"
+#include "rules/ExplicaDimension.h"
 #include "rules/ExplicaObjeto.h"
 #include "rules/Explicacion.h"
 #include "rules/Mensajes.h"
@@ -40,12 +41,20 @@ void anade(String& concatenar, const String& referencia) {
     concatenar = concatenar.empty() ? referencia : concatenar + u" - " + referencia;
 }
 
+// A measure as a whole number; a text that is none ends the check, and the trace names it.
+int32_t entero(int32_t dimension, const String& texto, bool delCatalogo) {
+    const String que = delCatalogo ? u"The catalogue's " + nombreMedida(dimension) + u" (table 3)"
+                                   : u"The cabinet's " + nombreMedida(dimension);
+    return medidaEntera(texto, que);
+}
+
 // One dimension: decided only when its integer values differ; a refusal restores the
 // catalogue value and, when `anadir`, collects the object's reference.
 bool decide(const ObjetoActual& actual, int32_t dimension, const String& valor,
             const String& catalogo, const Medidas& medidas, int32_t elId, String& concatenar,
             bool anadir) {
-    if (vb::CLng(valor) == vb::CLng(catalogo)) {
+    const int32_t delObjeto = entero(dimension, valor, false);
+    if (delObjeto == entero(dimension, catalogo, true)) {
         if (valor != catalogo)
             explica([&] { return explicaIgualEntero(dimension, valor, catalogo); });
         return true;

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "host/Factory.h"
+#include "rules/Explicacion.h"
 #include "vb/Conversions.h"
 #include "vb/Strings.h"
 
@@ -11,13 +12,15 @@ namespace rules {
 namespace {
 
 // Marks every kind whose prefix the child's name contains; a later child wins for its kind.
-void marcaHijo(ModVariables& mv, const std::vector<String>& prefijos, int32_t child) {
+void marcaHijo(ModVariables& mv, const std::vector<String>& prefijos, int32_t objectId,
+               int32_t child) {
     const String name = vb::CStr(host::use(mv.miScene).ObjectGetInfo(mv.miSessionId, child, 4));
     const size_t kinds = std::min<size_t>(prefijos.size(), kNumTipos);
     for (size_t k = 0; k < kinds; ++k) {
         if (vb::InStr(name, prefijos[k], vb::Compare::Text) > 0) {
             mv.idsHijosEsp[k] = child;
             mv.hayHijoEsp[k] = true;
+            mv.hijosHallados[k] = {child, objectId, llamadaExplicada()};
         }
     }
 }
@@ -29,7 +32,7 @@ void escaneaHijos(const std::vector<String>& prefijos, int32_t objectId, int32_t
     const int32_t n = vb::CLng(scene.ObjectGetChildrenNb(mv.miSessionId, objectId, 0));
     for (int32_t i = 1; i <= n; ++i) {
         const int32_t child = vb::CLng(scene.ObjectGetChildId(mv.miSessionId, objectId, i, 0));
-        marcaHijo(mv, prefijos, child);
+        marcaHijo(mv, prefijos, objectId, child);
     }
 }
 

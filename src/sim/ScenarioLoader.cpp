@@ -1,10 +1,12 @@
 #include "sim/ScenarioLoader.h"
 
+#include <filesystem>
 #include <fstream>
 #include <sstream>
 #include <string>
 
 #include "sim/JsonCheck.h"
+#include "sim/StrictJson.h"
 #include "sim/UiActions.h"
 
 namespace sim {
@@ -206,12 +208,7 @@ void loadWorld(Scenario& scenario, const Json& root) {
 }  // namespace
 
 std::unique_ptr<Scenario> loadScenario(const std::string& text) {
-    Json root;
-    try {
-        root = Json::parse(text);
-    } catch (const Json::exception& e) {  // a syntax error, or a number beyond a double
-        throw ScenarioError(std::string("invalid JSON: ") + e.what());
-    }
+    const Json root = parseStrict(text);
     auto scenario = std::make_unique<Scenario>();
     loadWorld(*scenario, root);
     if (root.contains("calls")) {
@@ -223,11 +220,23 @@ std::unique_ptr<Scenario> loadScenario(const std::string& text) {
 }
 
 std::string readWholeFile(const std::string& path) {
+    std::error_code error;
+    if (std::filesystem::is_directory(path, error))
+        throw ScenarioError(path + ": a folder, not a scenario file");
     std::ifstream in(path, std::ios::binary);
     if (!in) throw ScenarioError(path + ": cannot open the file");
     std::ostringstream content;
     content << in.rdbuf();
     return content.str();
+}
+
+std::unique_ptr<Scenario> loadScenarioFile(const std::string& path) {
+    const std::string text = readWholeFile(path);
+    try {
+        return loadScenario(text);
+    } catch (const ScenarioError& e) {
+        throw ScenarioError(path + ": " + e.what());
+    }
 }
 
 }  // namespace sim

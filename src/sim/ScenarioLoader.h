@@ -20,4 +20,7 @@ std::unique_ptr<Scenario> loadScenario(const std::string& text);
 // The bytes of a scenario (or golden) file; raises ScenarioError when it cannot be read.
 std::string readWholeFile(const std::string& path);
 
+// A scenario file loaded; every message of a file that does not load begins with its path.
+std::unique_ptr<Scenario> loadScenarioFile(const std::string& path);
+
 }  // namespace sim

@@ -18,7 +18,7 @@ thread_local char16_t tDecimalSeparator = u'.';
 
 ParsedNumber parsedText(const String& text) {
     auto number = detail::parseNumber(text, tDecimalSeparator);
-    if (!number) throw RuntimeError(err::kTypeMismatch);
+    if (!number) throw RuntimeError::typeMismatch(text);
     return std::move(*number);
 }
 

@@ -99,4 +99,10 @@ RuntimeError::RuntimeError(int number, String description)
       description_(std::move(description)),
       what_(whatText(number_, description_)) {}
 
+RuntimeError RuntimeError::typeMismatch(String text) {
+    RuntimeError error(err::kTypeMismatch);
+    error.text_ = std::move(text);
+    return error;
+}
+
 }  // namespace vb

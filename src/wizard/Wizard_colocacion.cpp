@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "host/Session.h"
+#include "rules/ExplicaObjeto.h"
 #include "rules/Explicacion.h"
 #include "vb/Conversions.h"
 #include "vb/Strings.h"
@@ -143,8 +144,11 @@ void Wizard::reglaSoloFondo(const Fabricante& f, const Medidas& m) {
     scene.ObjectSetInfo(wSessionId, kObjetoEvento, m.catAncho, 12);
     scene.ObjectSetInfo(wSessionId, kObjetoEvento, m.catAlto, 14);
     muestra(kMensajeFondo);
-    scene.EditReplaceSelection(wSessionId, f.reemplazo, refObjeto, 0, vb::CLng(m.catAncho),
-                               vb::CLng(m.fondo), vb::CLng(m.catAlto), 0);
+    // Read in this order, so that the trace names the first measure that is no number.
+    const int32_t ancho = rules::medidaEntera(m.catAncho, u"The catalogue's width (table 3)");
+    const int32_t fondo = rules::medidaEntera(m.fondo, u"The cabinet's depth");
+    const int32_t alto = rules::medidaEntera(m.catAlto, u"The catalogue's height (table 3)");
+    scene.EditReplaceSelection(wSessionId, f.reemplazo, refObjeto, 0, ancho, fondo, alto, 0);
 }
 
 void Wizard::reglaAncho(const Fabricante& f, const Medidas& m) {

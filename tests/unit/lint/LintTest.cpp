@@ -34,15 +34,16 @@ INSTANTIATE_TEST_SUITE_P(
                       "it (line M03 has it in column 1, but the rules find lines by their line "
                       "code)",
               "a.cat, table 8, line M03: warning: column 1 holds \"X03\"",
-              "a.cat, table 8, line M03: no kind of special permits the door model \"LAZIO\""}},
+              "a.cat, table 8, line M03: no MO_ line that a placement reads permits the door "
+              "model \"LAZIO\""}},
         Case{"SameCodeTwice",
              [](Json& w) { setRule(w, "MO_EA", "MO: M01 M01"); },
              {MO_EA + "the code \"M01\" is listed twice"}},
         Case{"NoBlankAfterThree",
              [](Json& w) { setRule(w, "MO_EA", "MO:M01 M02"); },
-             {MO_EA + "the fourth character of the rule text \"MO:M01 M02\" is not a blank: the "
-                      "rules skip the first three characters (\"MO:\") and read the codes "
-                      "\"M01\", \"M02\""}},
+             {MO_EA + "warning: the fourth character of the rule text \"MO:M01 M02\" is not a "
+                      "blank; the rules skip the first three characters (\"MO:\") all the same "
+                      "and read the codes \"M01\", \"M02\""}},
         Case{"NoPrefix",
              [](Json& w) { setRule(w, "MO_EA", "M02 M01"); },
              {MO_EA + "the rules skip the first three characters, \"M02\", which are a table-8 "
@@ -52,7 +53,8 @@ INSTANTIATE_TEST_SUITE_P(
              {MO_EA + "the rule text \"MO:\" is shorter than four characters"}},
         Case{"NoRuleText",
              [](Json& w) { lineOf(w, 2, "MO_EA")["cols"] = Json::object(); },
-             {MO_EA + "the line has no rule text in column 2, so width specials are refused"}},
+             {MO_EA + "the line has no rule text in column 2, so at placement no door model is "
+                      "permitted the width when a child of the cabinet carries \"EA_\""}},
         Case{"AllInSmallLetters",
              [](Json& w) { setRule(w, "MO_EA", "MO: all"); },
              {MO_EA + "the rule text \"MO: all\" does not permit every model"}},
@@ -71,8 +73,11 @@ INSTANTIATE_TEST_SUITE_P(
                       "model name \"@PLANTILLA\" begins with \"@\"), so it permits nothing"}},
         Case{"KindWithoutLine",
              [](Json& w) { removeLine(w, 2, "MO_EAAlF"); },
-             {"a.cat, table 2, line MO_EAAlF: warning: no such line: width, height and depth "
-              "specials are refused for every door model"}},
+             {"a.cat, table 2, line MO_EAAlF: warning: no such line, so placement never reads "
+              "this line (a change of the width, the height and the depth on a cabinet with an "
+              "\"EAAF_\" child keeps the width, the height and the depth whatever the lines "
+              "say), and the special-editing dialog offers type ANCHO_ALTO_FONDO to no door "
+              "model"}},
         Case{"NoPermissionLineAtAll",
              [](Json& w) {
                  for (const char* code :
@@ -86,7 +91,8 @@ INSTANTIATE_TEST_SUITE_P(
                  w["scene"][0]["info"]["2"] = "31";
              },
              {"a.cat, table 2, line MO_EAl: warning: cabinet 100 has the catalogue number 31, "
-              "so the Wizard opens its special-editing dialog"}},
+              "so the Wizard opens its special-editing dialog",
+              "a.cat, table 2, line MO_EAAlF: warning: cabinet 100 has the catalogue number 31"}},
         Case{"AllElsewhereIsClean", [](Json& w) { setRule(w, "MO_EAl", "MO: ALL"); }, {}}));
 
 INSTANTIATE_TEST_SUITE_P(
@@ -94,9 +100,13 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::Values(
         Case{"ModelNoKindPermits",
              [](Json& w) { tableOf(w, 8).push_back(modelLine("M03", "LAZIO")); },
-             {"a.cat, table 8, line M03: no kind of special permits the door model \"LAZIO\": "
-              "no MO_ line lists a table-8 code whose model name is \"LAZIO\" and none says "
-              "ALL"}},
+             {"a.cat, table 8, line M03: no MO_ line that a placement reads permits the door "
+              "model \"LAZIO\" (none of MO_EA, MO_EAl, MO_EF, MO_EAAl, MO_EAF lists a table-8 "
+              "code whose model name is \"LAZIO\" or says ALL): at placement a change of such a "
+              "cabinet is refused wherever an MO_ line decides it (a measure whose deciding "
+              "marker child the cabinet does not carry stays), unless the exception list "
+              "searched names the cabinet; the special-editing dialog still offers it the types "
+              "of MO_EAAlF, lines a placement never reads"}},
         Case{"PermittedThroughAll",
              [](Json& w) {
                  tableOf(w, 8).push_back(modelLine("M03", "LAZIO"));
@@ -138,7 +148,8 @@ INSTANTIATE_TEST_SUITE_P(
              },
              {"a.cat, table 8, line (no code, model \"NEVADA\"): a door model without a line "
               "code",
-              "a.cat, table 8, line (no code, model \"NEVADA\"): no kind of special permits"}},
+              "a.cat, table 8, line (no code, model \"NEVADA\"): no MO_ line that a placement "
+              "reads permits"}},
         Case{"NoDoorModel",
              [](Json& w) {
                  tableOf(w, 8) = Json::array({modelLine("M01", "@A")});

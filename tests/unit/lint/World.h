@@ -47,8 +47,11 @@ inline Json cleanCatalogue() {
     t2.push_back(textLine("TR_0046", "Diagonal por longitudes"));
     t2.push_back(textLine("TR_0047", "Diagonal por ángulo"));
     t2.push_back(ruleLine("MO_EA", "MO: M01"));
-    for (const char* code : {"MO_EAl", "MO_EF", "MO_EAAl", "MO_EAF", "MO_EAlF", "MO_EAAlF"})
+    for (const char* code : {"MO_EAl", "MO_EF", "MO_EAAl", "MO_EAF", "MO_EAlF"})
         t2.push_back(ruleLine(code, "MO: M01 M02"));
+    // A placement keeps a change of all three measures on a cabinet whose only marker is
+    // "EAAF_", whatever the door model: the dialog agrees only when every model has the type.
+    t2.push_back(ruleLine("MO_EAAlF", "MO: ALL"));
     t2.push_back(ruleLine("EX_EA", "EX: B60-TIBER"));
     for (const char* code : {"EX_EAl", "EX_EF", "EX_EAA", "EX_EAF", "EX_EAlF", "EX_EAAF"})
         t2.push_back(ruleLine(code, "EX:"));

@@ -22,11 +22,13 @@ Plain play(const fs::path& scenario, bool explain) {
         native::runScenarioText(sim::readWholeFile(scenario.string()), options).dump());
 }
 
-// Every scenario file that the goldens or the demo play.
+// Every scenario file that the goldens or the demo play, and the worlds of the trace's own cases.
 std::vector<fs::path> playedScenarios() {
     std::vector<fs::path> found;
     for (const auto& golden : scenariosWithGoldens()) found.push_back(scenariosRoot() / golden);
     for (const auto& sample : samples()) found.push_back(sourceRoot() / sample);
+    for (const auto& entry : fs::directory_iterator(sourceRoot() / "tests" / "explain"))
+        if (entry.path().extension() == ".json") found.push_back(entry.path());
     return found;
 }
 
@@ -83,6 +85,33 @@ const Decision kDecisions[] = {
      "Article code \"0446\" is exempt from every rule of this manufacturer."},
     {"tests/scenarios/wizard/xey_depth_only.json", 0,
      "the cabinet is replaced from xey08.cat keeping its depth \"580\"."},
+    // A height marker found in an earlier call: where and when, so that the next line (no such
+    // child on this cabinet) does not read as a contradiction.
+    {"tests/explain/decisions.json", 0,
+     "(a child named with \"EAl_\" has been found: child 101, among the children of this "
+     "call's cabinet, in this call)"},
+    {"tests/explain/decisions.json", 1,
+     "(a child named with \"EAl_\" has been found: child 101, among the children of the "
+     "cabinet of that call, in an earlier call (call 1 of this trace), and the rules remember it "
+     "for every later cabinet); it is not listed."},
+    {"tests/explain/decisions.json", 2,
+     "as the width differs too as text (\"600.0\" against the catalogue's \"600\"; as whole "
+     "numbers they are equal, but here the texts are compared) and child 121 carries the marker "
+     "\"EAA_\""},
+    {"tests/explain/decisions.json", 3,
+     "The cabinet's width \"6x0\" cannot be read as a whole number: the check stops with error "
+     "13 (Type mismatch)."},
+    {"tests/explain/summary.json", 0,
+     "Summary TR_9017 shown (caption TR_9001) with the refused references \"B60-TIBER\"; its "
+     "texts go through the dictionary, as the application's language \"ENG\" differs from the "
+     "language \"\" of the catalogue that was current when the check began"},
+    {"tests/explain/summary.json", 2, "No cabinet was refused: no summary is shown."},
+    {"tests/explain/wizard_measure.json", 0,
+     "The catalogue's width (table 3) \"6OO\" cannot be read as a whole number: the check stops "
+     "with error 13 (Type mismatch)."},
+    {"tests/scenarios/dialog/flags_not_boolean.json", 0,
+     "The call stops at error 13 (Type mismatch): the text \"s\u00ED\" cannot be read as a "
+     "number; the error is shown in a message and the call returns true."},
 };
 
 INSTANTIATE_TEST_SUITE_P(Rules, Explains, ::testing::ValuesIn(kDecisions),

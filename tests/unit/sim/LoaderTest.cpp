@@ -1,6 +1,9 @@
 // Strict loading: every mistake names its JSON path; a good file builds the world it says.
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
+
 #include "../CaseNames.h"
 #include "sim/ScenarioLoader.h"
 
@@ -60,7 +63,19 @@ INSTANTIATE_TEST_SUITE_P(
                 "calls[0].ui[0].control: missing"},
         BadCase{R"({"calls":[{"class":"Plugin","method":"X","ui":[{"do":"snapshot","x":1}]}]})",
                 "calls[0].ui[0].x: unknown key"},
-        BadCase{R"([1])", "(top level): expected an object"}),
+        BadCase{R"([1])", "(top level): expected an object"},
+        // A key written twice would be taken from its last occurrence without a word.
+        BadCase{R"({"scene":[],"scene":[]})",
+                "scene: written twice in one object (the format keeps no duplicate key)"},
+        BadCase{R"({"catalogs":{"C:\\c.cat":{"tables":{"2":[{"code":"A","code":"B"}]}}}})",
+                "catalogs.C:\\c.cat.tables.2[0].code: written twice in one object (the format "
+                "keeps no duplicate key)"},
+        BadCase{R"({"scene":[{"id":1},{"id":2,"info":{"12":"1","13":"2","12":"3"}}]})",
+                "scene[1].info.12: written twice in one object (the format keeps no duplicate "
+                "key)"},
+        BadCase{R"({"calls":[{"class":"Plugin","method":"X","args":[1,[{"a":1,"a":2}]]}]})",
+                "calls[0].args[1][0].a: written twice in one object (the format keeps no "
+                "duplicate key)"}),
     [](const auto& info) { return casos::nombreValido(info.param.message); });
 
 // An object at depth `depth` below the top level, inside its ancestors.
@@ -86,6 +101,43 @@ TEST(Loader, RefusesObjectsNestedTooDeep) {
     EXPECT_THROW(sim::loadScenario(nested(30000)), sim::ScenarioError);
 }
 
+// A syntax error says where, in the runner's words, not the JSON library's.
+TEST(Loader, SyntaxErrorSaysWhere) {
+    try {
+        sim::loadScenario("{\n \"scene\": [,]\n}");
+        FAIL();
+    } catch (const sim::ScenarioError& e) {
+        EXPECT_EQ(std::string(e.what()).rfind("invalid JSON: line 2, column 12: syntax error", 0),
+                  0u)
+            << e.what();
+    }
+}
+
+// A file that does not load is named in the message; a folder is not read as empty JSON.
+TEST(Loader, NamesTheFile) {
+    const auto folder = std::filesystem::temp_directory_path();
+    EXPECT_THROW(
+        {
+            try {
+                sim::loadScenarioFile(folder.string());
+            } catch (const sim::ScenarioError& e) {
+                EXPECT_EQ(std::string(e.what()),
+                          folder.string() + ": a folder, not a scenario file");
+                throw;
+            }
+        },
+        sim::ScenarioError);
+    const auto file = folder / "quorbel-loader-test.json";
+    std::ofstream(file) << R"({"scene":[{"id":1,"info":{"12":650}}]})";
+    try {
+        sim::loadScenarioFile(file.string());
+        ADD_FAILURE();
+    } catch (const sim::ScenarioError& e) {
+        EXPECT_EQ(std::string(e.what()), file.string() + ": scene[0].info.12: expected a string");
+    }
+    std::filesystem::remove(file);
+}
+
 // A number beyond a double (1e312) failed otherwise than a syntax error and ended the runner.
 TEST(Loader, InvalidJsonIsAnError) {
     for (const char* text : {"{\"scene\": [", "1e312", R"({"scene": [{"id": -1e400}]})"}) {
@@ -94,6 +146,7 @@ TEST(Loader, InvalidJsonIsAnError) {
             ADD_FAILURE() << text;
         } catch (const sim::ScenarioError& e) {
             EXPECT_EQ(std::string(e.what()).rfind("invalid JSON: ", 0), 0u) << e.what();
+            EXPECT_EQ(std::string(e.what()).find("json.exception"), std::string::npos) << e.what();
         }
     }
 }
