@@ -110,3 +110,9 @@ set_tests_properties(wine.msi_x86_tables PROPERTIES LABELS wine)
 wine_test(wine.leak_run ${WINE_TESTS}/leak-run ${CMAKE_BINARY_DIR}/hostdriver.exe
           ${CMAKE_SOURCE_DIR}/tests/scenarios/dialog/open_and_exit.json)
 set_tests_properties(wine.leak_run PROPERTIES TIMEOUT 300)
+
+# The 32-bit suite's userland on a machine that cannot reach the package registry.
+if(WINE_ARCH STREQUAL x86)
+  add_test(NAME wine.userland_failure COMMAND ${WINE_TESTS}/userland-failure)
+  set_tests_properties(wine.userland_failure PROPERTIES LABELS wine)
+endif()
