@@ -17,6 +17,16 @@ uint64_t privateBytes() {
     return counters.PagefileUsage;
 }
 
+// The DLL's DllCanUnloadNow answer; `unloaded` when the DLL is not loaded.
+HRESULT canUnloadNow(HRESULT unloaded) {
+    HMODULE plugin = GetModuleHandleW(L"Quorbel.dll");
+    using CanUnload = HRESULT(STDAPICALLTYPE*)();
+    auto canUnload = plugin ? reinterpret_cast<CanUnload>(reinterpret_cast<void*>(
+                                  GetProcAddress(plugin, "DllCanUnloadNow")))
+                            : nullptr;
+    return canUnload ? canUnload() : unloaded;
+}
+
 }  // namespace
 
 void Lifetime::afterCall(size_t index, const sim::HostState& state) {
@@ -29,15 +39,16 @@ void Lifetime::afterCall(size_t index, const sim::HostState& state) {
     atEnd_ = privateBytes();
 }
 
+void Lifetime::whileHeld() {
+    if (canUnloadNow(S_OK) != S_FALSE)
+        problems_.push_back(
+            "DllCanUnloadNow did not answer S_FALSE while the driver held its instances");
+}
+
 void Lifetime::afterRelease() {
-    HMODULE plugin = GetModuleHandleW(L"Quorbel.dll");
-    using CanUnload = HRESULT(STDAPICALLTYPE*)();
-    auto canUnload = plugin ? reinterpret_cast<CanUnload>(reinterpret_cast<void*>(
-                                  GetProcAddress(plugin, "DllCanUnloadNow")))
-                            : nullptr;
-    canUnload_ = canUnload && canUnload() == S_OK;
+    canUnload_ = canUnloadNow(S_OK) == S_OK;
     if (measuring_) afterRelease_ = privateBytes();
-    if (plugin && !canUnload_)
+    if (!canUnload_)
         problems_.push_back(
             "objects of the plug-in are still alive after the driver released its "
             "instances (DllCanUnloadNow did not answer S_OK)");

@@ -1,7 +1,8 @@
 #pragma once
 // The plug-in's object lifetime as the host sees it: no host object is still held when a call
-// returns; once the driver has released its Plugin and Wizard, every object of the DLL is gone
-// (DllCanUnloadNow answers S_OK); and, when asked, the process's private memory over a long run.
+// returns; while the driver holds its Plugin and Wizard the DLL must stay (DllCanUnloadNow
+// answers S_FALSE), once it has released them every object of the DLL is gone (S_OK); and, when
+// asked, the process's private memory over a long run.
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -15,6 +16,8 @@ namespace hostdriver {
 class Lifetime {
   public:
     void afterCall(size_t index, const sim::HostState& state);
+    // After the last call, while the driver still holds its instances.
+    void whileHeld();
     // After the driver released its instances of the plug-in's classes.
     void afterRelease();
     const std::vector<std::string>& problems() const { return problems_; }

@@ -92,6 +92,7 @@ void playCalls(sim::Simulation& simulation, const sim::Scenario& scenario, const
         lifetime.afterCall(i, simulation.state());
         if (options.memory) simulation.recorder().forgetCalls();
     }
+    lifetime.whileHeld();
     hostdriver::noteActivity("the release of the plug-in's instances");
 }
 
