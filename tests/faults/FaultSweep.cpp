@@ -74,10 +74,10 @@ std::vector<SweepScenario> sweepScenarios(const std::string& sourceDir) {
 }
 
 std::vector<int64_t> callsToFail(const std::string& name, const std::vector<const char*>& trace,
-                                 bool every) {
+                                 Share share) {
     const auto total = static_cast<int64_t>(trace.size());
     std::set<int64_t> calls;
-    if (every || trace.size() <= kEveryUpTo) {
+    if (share == Share::Every || (share == Share::Sampled && trace.size() <= kEveryUpTo)) {
         for (int64_t k = 1; k <= total; ++k) calls.insert(k);
         return {calls.begin(), calls.end()};
     }
@@ -90,12 +90,15 @@ std::vector<int64_t> callsToFail(const std::string& name, const std::vector<cons
         calls.insert(range.first);
         calls.insert(range.second);
     }
-    std::mt19937 draw(seedOf(name));
-    while (calls.size() < kSampled) calls.insert(1 + static_cast<int64_t>(draw() % trace.size()));
+    if (share == Share::Sampled) {
+        std::mt19937 draw(seedOf(name));
+        while (calls.size() < kSampled)
+            calls.insert(1 + static_cast<int64_t>(draw() % trace.size()));
+    }
     return {calls.begin(), calls.end()};
 }
 
-void sweep(const SweepScenario& scenario, bool every, Figures& figures,
+void sweep(const SweepScenario& scenario, Share share, Figures& figures,
            const std::function<void(const std::string&)>& beforeRun) {
     std::vector<const char*> trace;
     beforeRun(scenario.name + " without a fault");
@@ -107,7 +110,7 @@ void sweep(const SweepScenario& scenario, bool every, Figures& figures,
     for (const std::string& p : clean.problems)
         figures.findings.push_back(scenario.name + " without a fault: " + p);
     const int64_t budget = budgetFor(clean.hostCalls);
-    for (const int64_t k : callsToFail(scenario.name, trace, every)) {
+    for (const int64_t k : callsToFail(scenario.name, trace, share)) {
         for (const sim::FaultKind kind : kKinds) {
             const std::string run =
                 scenario.name + " " + std::to_string(k) + ":" + sim::faultKindName(kind);

@@ -24,14 +24,20 @@ struct SweepScenario {
 // samples/dialog/*.json, sorted by name.
 std::vector<SweepScenario> sweepScenarios(const std::string& sourceDir);
 
+// How many of a scenario's host calls are failed.
+enum class Share {
+    Members,  // the first and last call of each member: every member's error paths, thinly
+    Sampled,  // every call up to kEveryUpTo calls; beyond, the members' and a fixed sample
+    Every,    // every call
+};
+
 // Which host calls to fail in a scenario whose run makes `trace.size()` calls (trace[i] is the
-// member of call i + 1): every one when `every` or when there are at most kEveryUpTo; otherwise
-// the first and last call of each member and others drawn with a seed made from `name`, up to
-// at least kSampled calls. Sorted.
+// member of call i + 1), for `share`; the Sampled share draws with a seed made from `name`, up
+// to at least kSampled calls. Sorted.
 constexpr size_t kEveryUpTo = 300;
 constexpr size_t kSampled = 200;
 std::vector<int64_t> callsToFail(const std::string& name, const std::vector<const char*>& trace,
-                                 bool every);
+                                 Share share);
 
 struct Figures {
     size_t scenarios = 0;
@@ -42,7 +48,7 @@ struct Figures {
 };
 
 // Sweeps one scenario; `beforeRun` is told each run ("name K:KIND") before it is played.
-void sweep(const SweepScenario& scenario, bool every, Figures& figures,
+void sweep(const SweepScenario& scenario, Share share, Figures& figures,
            const std::function<void(const std::string&)>& beforeRun);
 
 }  // namespace faults

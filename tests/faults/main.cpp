@@ -1,10 +1,12 @@
 // fault-sweep: plays every golden scenario and sample with the simulated host failing each of
 // its calls in turn (see FaultSweep.h) and prints what it found.
-//   fault-sweep [--every] [--only TEXT] [--part I/N]
-// Without --every, scenarios of more than 300 host calls have a fixed sample of their calls
-// failed (the CI share); --only keeps the scenarios whose name contains TEXT; --part I/N keeps
-// every N-th scenario from the I-th on (1 <= I <= N), so that N processes share a sweep.
-// Exit codes: 0 nothing found, 1 findings, 2 bad usage. A crash names the run it happened in.
+//   fault-sweep [--every | --members] [--only TEXT] [--part I/N]
+// Without an option, scenarios of more than 300 host calls have a fixed sample of their calls
+// failed (the CI share); --every fails every call, --members only each member's first and last
+// call (the share the sanitizer build plays, after the plain build played the CI share); --only
+// keeps the scenarios whose name contains TEXT; --part I/N keeps every N-th scenario from the I-th
+// on (1 <= I <= N), so that N processes share a sweep. Exit codes: 0 nothing found, 1 findings, 2
+// bad usage. A crash names the run it happened in.
 #include <unistd.h>
 
 #include <chrono>
@@ -52,7 +54,19 @@ bool readPart(const std::string& text, Part& part) {
     return true;
 }
 
-int sweepAll(bool every, const std::string& only, Part part) {
+const char* shareName(faults::Share share) {
+    switch (share) {
+        case faults::Share::Members:
+            return "each member's first and last call";
+        case faults::Share::Sampled:
+            return "sampled";
+        case faults::Share::Every:
+            return "every call";
+    }
+    return "";
+}
+
+int sweepAll(faults::Share share, const std::string& only, Part part) {
     const auto start = std::chrono::steady_clock::now();
     faults::Figures figures;
     const auto scenarios = faults::sweepScenarios(QUORBEL_SOURCE_DIR);
@@ -60,7 +74,7 @@ int sweepAll(bool every, const std::string& only, Part part) {
         const auto& scenario = scenarios[i];
         if (i % part.count != part.index) continue;
         if (scenario.name.find(only) == std::string::npos) continue;
-        faults::sweep(scenario, every, figures, noteRun);
+        faults::sweep(scenario, share, figures, noteRun);
     }
     const std::chrono::duration<double> took = std::chrono::steady_clock::now() - start;
     for (size_t i = 0; i < figures.findings.size() && i < kFindingsShown; ++i)
@@ -70,9 +84,8 @@ int sweepAll(bool every, const std::string& only, Part part) {
     std::printf(
         "fault sweep (%s): %zu scenarios, %lld host calls without faults, %zu faulted runs, "
         "%.1f s, %zu findings\n",
-        every ? "every call" : "sampled", figures.scenarios,
-        static_cast<long long>(figures.hostCalls), figures.runs, took.count(),
-        figures.findings.size());
+        shareName(share), figures.scenarios, static_cast<long long>(figures.hostCalls),
+        figures.runs, took.count(), figures.findings.size());
     return figures.findings.empty() ? 0 : 1;
 }
 
@@ -80,24 +93,26 @@ int sweepAll(bool every, const std::string& only, Part part) {
 
 int main(int argc, char** argv) {
     for (const int s : {SIGSEGV, SIGABRT, SIGFPE, SIGBUS, SIGILL}) std::signal(s, onCrash);
-    bool every = false;
+    faults::Share share = faults::Share::Sampled;
     std::string only;
     Part part;
     for (int i = 1; i < argc; ++i) {
         const std::string a = argv[i];
         if (a == "--every") {
-            every = true;
+            share = faults::Share::Every;
+        } else if (a == "--members") {
+            share = faults::Share::Members;
         } else if (a == "--only" && i + 1 < argc) {
             only = argv[++i];
         } else if (a == "--part" && i + 1 < argc && readPart(argv[i + 1], part)) {
             ++i;
         } else {
-            std::cerr << "usage: fault-sweep [--every] [--only TEXT] [--part I/N]\n";
+            std::cerr << "usage: fault-sweep [--every | --members] [--only TEXT] [--part I/N]\n";
             return 2;
         }
     }
     try {
-        return sweepAll(every, only, part);
+        return sweepAll(share, only, part);
     } catch (const std::exception& e) {
         std::cerr << "fault-sweep: " << currentRun << ": " << e.what() << "\n";
     }
