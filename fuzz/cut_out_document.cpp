@@ -93,7 +93,7 @@ void prepare(fakedlg::Banco& banco, const std::vector<String>& t, unsigned selec
 }
 
 bool load(fakedlg::Banco& banco, const String& text) {
-    auto& mv = rules::modVariables();
+    auto& mv = common::modVariables();
     mv.docCajeos = dialog::cargaCajeos(banco.plataforma, text);
     return mv.docCajeos->documentElement() != nullptr;
 }
@@ -132,7 +132,7 @@ void checkWriting(fakedlg::Banco& banco, unsigned selected, bool clean) {
         ++recesses;
         rows += kRowsOf[i];
     }
-    const auto& doc = *rules::modVariables().docCajeos;
+    const auto& doc = *common::modVariables().docCajeos;
     FUZZ_CHECK(doc.getElementsByTagName(u"CAJEO").size() == recesses);
     FUZZ_CHECK(doc.getElementsByTagName(u"PARAM").size() == rows);
 

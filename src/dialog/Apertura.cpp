@@ -1,9 +1,9 @@
 #include "dialog/Apertura.h"
 
+#include "common/Explicacion.h"
+#include "common/ModVariables.h"
 #include "dialog/Explicaciones.h"
 #include "dialog/frmEspEnc.h"
-#include "rules/Explicacion.h"
-#include "rules/ModVariables.h"
 #include "vb/Conversions.h"
 
 namespace dialog {
@@ -18,7 +18,7 @@ void muestraDialogo(env::Env& env) {
 
 void avisaErrorComponentes(platform::Platform& platform, const vb::RuntimeError& error) {
     const vb::String numero = vb::numberText(error.number());
-    rules::explica([&] { return explicaErrorAtrapado(error); });
+    common::explica([&] { return explicaErrorAtrapado(error); });
     if (error.number() == vb::err::kTypeMismatch) {
         platform.messageBox(u"Error " + numero + u": " + error.description(), kCaptionAtencion,
                             platform::MsgIcon::Information);
@@ -34,7 +34,7 @@ void avisaCatalogoAusente(platform::Platform& platform, const vb::String& ruta) 
 }
 
 LiberaObjetos::~LiberaObjetos() {
-    auto& mv = rules::modVariables();
+    auto& mv = common::modVariables();
     mv.miCatalog.reset();
     mv.miScene.reset();
     mv.miAppli.reset();

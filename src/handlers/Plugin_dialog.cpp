@@ -1,18 +1,18 @@
 // The components handlers of `Plugin`: open the special-editing dialog for the object of the
 // event, with the error trap that reports any runtime error raised meanwhile.
+#include "common/Catalogo.h"
+#include "common/ModVariables.h"
 #include "dialog/Apertura.h"
-#include "handlers/Catalogo.h"
 #include "handlers/Plugin.h"
 #include "handlers/Preparacion.h"
 #include "host/Factory.h"
-#include "rules/ModVariables.h"
 #include "vb/Conversions.h"
 
 namespace handlers {
 
 namespace {
 
-void abreSesion(Env& env, rules::ModVariables& mv, int32_t lCallParamsBlock) {
+void abreSesion(Env& env, common::ModVariables& mv, int32_t lCallParamsBlock) {
     mv.miAppli = host::createAppli(env.factory);
     mv.miScene = host::createScene(env.factory);
     mv.miCatalog = host::createCatalog(env.factory);
@@ -20,7 +20,7 @@ void abreSesion(Env& env, rules::ModVariables& mv, int32_t lCallParamsBlock) {
     mv.miSessionId = vb::CLng(host::use(mv.miAppli).StartSessionFromCallParams(bloque));
 }
 
-void leeMedidas(rules::ModVariables& mv) {
+void leeMedidas(common::ModVariables& mv) {
     auto& scene = host::use(mv.miScene);
     mv.medidaAncho = vb::CStr(scene.ObjectGetInfo(mv.miSessionId, -2, 12));
     mv.medidaFondo = vb::CStr(scene.ObjectGetInfo(mv.miSessionId, -2, 13));
@@ -30,16 +30,16 @@ void leeMedidas(rules::ModVariables& mv) {
 }  // namespace
 
 bool Plugin::OnObjectComponentsBefore(int32_t lCallParamsBlock) {
-    auto& mv = rules::modVariables();
+    auto& mv = common::modVariables();
     dialog::LiberaObjetos libera;
     bool resultado = false;
     try {
         mv.numTiposEsp = 7;
         abreSesion(env_, mv, lCallParamsBlock);
         if (mv.miSessionId != 0) {
-            mv.dirCatalogos = leeDirCatalogos(env_) + u"\\";
+            mv.dirCatalogos = common::leeDirCatalogos(env_) + u"\\";
             leeMedidas(mv);
-            CargaCatalogo carga = cargaCatalogoObjeto(env_, -2);
+            common::CargaCatalogo carga = common::cargaCatalogoObjeto(env_, -2);
             if (carga.cargado) {
                 preparaReglas();
                 dialog::muestraDialogo(env_);

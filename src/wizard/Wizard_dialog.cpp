@@ -1,8 +1,8 @@
 // The components handlers of `Wizard`: the special-editing dialog for catalogues 31 to 33.
+#include "common/Catalogo.h"
+#include "common/ModVariables.h"
 #include "dialog/Apertura.h"
-#include "handlers/Catalogo.h"
 #include "host/Factory.h"
-#include "rules/ModVariables.h"
 #include "vb/Conversions.h"
 #include "wizard/Wizard.h"
 
@@ -19,9 +19,9 @@ bool esCatalogoPropio(const vb::Variant& numero) {
 
 // The work of an open session; true when the object is not of the three catalogues.
 bool abreDialogo(Wizard& w, env::Env& env) {
-    auto& mv = rules::modVariables();
+    auto& mv = common::modVariables();
     auto& scene = host::use(mv.miScene);
-    mv.dirCatalogos = handlers::leeDirCatalogosTexto(env);
+    mv.dirCatalogos = common::leeDirCatalogosTexto(env);
     mv.medidaAncho = vb::CStr(scene.ObjectGetInfo(mv.miSessionId, -2, 12));
     mv.medidaFondo = vb::CStr(scene.ObjectGetInfo(mv.miSessionId, -2, 13));
     mv.medidaAlto = vb::CStr(scene.ObjectGetInfo(mv.miSessionId, -2, 14));
@@ -43,7 +43,7 @@ bool abreDialogo(Wizard& w, env::Env& env) {
 }  // namespace
 
 bool Wizard::OnObjectComponentsBefore(int32_t lCallParamsBlock) {
-    auto& mv = rules::modVariables();
+    auto& mv = common::modVariables();
     dialog::LiberaObjetos libera;
     bool resultado = false;
     try {

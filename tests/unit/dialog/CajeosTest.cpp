@@ -40,7 +40,7 @@ TEST(CargaValoresCajeos, RestoresByIndexAndSkipsWhatCannotBeRead) {
     fakedlg::Banco banco;
     auto& f = banco.f();
     preparaFilas(f);
-    auto& mv = rules::modVariables();
+    auto& mv = common::modVariables();
     mv.docCajeos = banco.plataforma.createXmlDocument();
     mv.docCajeos->loadXML(
         u"<CAJEOS><CAJEO><TITULO>Pilar A</TITULO>"
@@ -65,7 +65,7 @@ TEST(AnotaCajeos, ReplacesTheBlockInsteadOfAddingOne) {
     banco.mundo.textos[u"TR_0008"] = u"Encastres de pilar";
     banco.mundo.objetos[40].info[49] = u"Pilar de obra";
     f.EtiqValorEnc[2].Caption = u"Fondo";  // an unescaped "&" would not load
-    auto& mv = rules::modVariables();
+    auto& mv = common::modVariables();
     mv.docCajeos = banco.plataforma.createXmlDocument();
     mv.docCajeos->loadXML(f.CadenaCajeos());
     f.anotaCajeos();

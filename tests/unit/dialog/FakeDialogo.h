@@ -6,11 +6,11 @@
 #include <tuple>
 #include <vector>
 
+#include "common/ModVariables.h"
 #include "dialog/frmEspEnc.h"
 #include "host/Factory.h"
 #include "native/XmlDocumentLibxml.h"
 #include "platform/Platform.h"
-#include "rules/ModVariables.h"
 
 namespace fakedlg {
 
@@ -147,8 +147,8 @@ struct Banco {
     std::unique_ptr<dialog::frmEspEnc> form;
 
     Banco() {
-        auto& mv = rules::modVariables();
-        mv = rules::ModVariables{};
+        auto& mv = common::modVariables();
+        mv = common::ModVariables{};
         mv.miAppli = std::make_shared<Appli>();
         mv.miScene = std::make_shared<Scene>(mundo);
         mv.miCatalog = std::make_shared<Catalog>(mundo);
@@ -156,7 +156,7 @@ struct Banco {
         mv.idsHijosEsp.fill(-2);
         form = std::make_unique<dialog::frmEspEnc>(env);
     }
-    ~Banco() { rules::modVariables() = rules::ModVariables{}; }
+    ~Banco() { common::modVariables() = common::ModVariables{}; }
     dialog::frmEspEnc& f() { return *form; }
 };
 

@@ -52,7 +52,7 @@ TEST(ClickTipos, FollowsTheCombinedTypeRules) {
     };
     for (const auto& c : cases) {
         fakedlg::Banco banco;
-        auto& mv = rules::modVariables();
+        auto& mv = common::modVariables();
         for (char d : c.markers) mv.idsHijosEsp[d - '0'] = 100 + (d - '0');
         for (int m = 0; m < 3; ++m) banco.f().TextMedEsp[m].Enabled = false;
         for (int k : c.clicks) banco.f().PictureEsp_Click(k);
@@ -75,7 +75,7 @@ TEST(ClickTipos, FollowsTheCombinedTypeRules) {
 TEST(MedidasPorDefecto, PutsTheCatalogueMeasuresBackAndClearsEverySelection) {
     fakedlg::Banco banco;
     auto& f = banco.f();
-    rules::modVariables().idsHijosEsp.fill(7);
+    common::modVariables().idsHijosEsp.fill(7);
     f.medidasDefecto = {u"600", u"720", u"560", u""};
     f.PictureEsp_Click(0);
     f.PictureEsp_Click(5);
@@ -116,7 +116,7 @@ TEST(SeleccionInicial, PicksTheTypesOfTheChangedMeasures) {
     for (const auto& c : cases) {
         fakedlg::Banco banco;
         auto& f = banco.f();
-        for (char d : c.markers) rules::modVariables().idsHijosEsp[d - '0'] = 50;
+        for (char d : c.markers) common::modVariables().idsHijosEsp[d - '0'] = 50;
         f.medidasDefecto = {u"600", u"720", u"560", u""};
         f.medidasActuales = {c.distinto[0] ? u"650" : u"600", c.distinto[1] ? u"700" : u"720",
                              c.distinto[2] ? u"500" : u"560", u""};
@@ -142,8 +142,8 @@ TEST(OcultaTiposFijos, HidesByTheObjectsFlagsAndRefusesOtherTexts) {
         auto& f = banco.f();
         auto& info = banco.mundo.objetos[-2].info;
         info[15] = c.b15, info[16] = c.b16, info[17] = c.b17;
-        rules::modVariables().numTiposEsp = 7;
-        rules::modVariables().idsHijosEsp.fill(50);
+        common::modVariables().numTiposEsp = 7;
+        common::modVariables().idsHijosEsp.fill(50);
         SCOPED_TRACE(c.visible);
         try {
             f.ocultaTiposFijos();

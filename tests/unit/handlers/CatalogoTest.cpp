@@ -4,9 +4,9 @@
 
 #include "../CaseNames.h"
 #include "../rules/FakeHost.h"
-#include "handlers/Catalogo.h"
+#include "common/Catalogo.h"
+#include "common/ModVariables.h"
 #include "native/SimPlatform.h"
-#include "rules/ModVariables.h"
 
 namespace {
 
@@ -41,7 +41,7 @@ TEST_P(Ini, SectionOrderAndCut) {
     sim::Simulation simulation(std::move(world));
     native::SimPlatform platform(simulation);
     env::Env env{platform, simulation.factory()};
-    EXPECT_EQ(handlers::leeDirCatalogos(env), GetParam().expected);
+    EXPECT_EQ(common::leeDirCatalogos(env), GetParam().expected);
 }
 
 INSTANTIATE_TEST_SUITE_P(Cases, Ini, testing::ValuesIn(kIniCases), casos::PorNombre());
@@ -74,7 +74,7 @@ TEST_P(IniTexto, Reads) {
     fake::Factory factory;
     env::Env env{platform, factory};
     platform.textLines = GetParam().lines;
-    EXPECT_EQ(handlers::leeDirCatalogosTexto(env), GetParam().expected);
+    EXPECT_EQ(common::leeDirCatalogosTexto(env), GetParam().expected);
 }
 
 INSTANTIATE_TEST_SUITE_P(Cases, IniTexto, testing::ValuesIn(kTextCases), casos::PorNombre());
@@ -82,7 +82,7 @@ INSTANTIATE_TEST_SUITE_P(Cases, IniTexto, testing::ValuesIn(kTextCases), casos::
 class Busqueda : public testing::Test {
   protected:
     void SetUp() override {
-        mv = rules::ModVariables{};
+        mv = common::ModVariables{};
         mv.miScene = factory.scene;
         mv.miCatalog = factory.catalog;
         mv.miSessionId = 1;
@@ -91,8 +91,8 @@ class Busqueda : public testing::Test {
         platform.listings[u"C:\\Cat\\"] = {{u".", true}, {u"..", true}, {u"A", true},
                                            {u"B", true}, {u"C", true},  {u"forma10.txt", false}};
     }
-    String carga() { return handlers::cargaCatalogoObjeto(env, -2).ruta; }
-    rules::ModVariables& mv = rules::modVariables();
+    String carga() { return common::cargaCatalogoObjeto(env, -2).ruta; }
+    common::ModVariables& mv = common::modVariables();
     fake::Platform platform;
     fake::Factory factory;
     env::Env env{platform, factory};

@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "../rules/FakeHost.h"
+#include "common/ModVariables.h"
 #include "handlers/Plugin.h"
-#include "rules/ModVariables.h"
 
 namespace {
 
@@ -20,7 +20,7 @@ String num(int n) {
 class Handlers : public testing::Test {
   protected:
     void SetUp() override {
-        rules::modVariables() = rules::ModVariables{};
+        common::modVariables() = common::ModVariables{};
         platform.profile[u"Local"] = u"C:\\Cat";
         platform.files[u"C:\\Cat\\forma10.cat"] = 100;
         auto& c = *host.catalog;
@@ -111,7 +111,7 @@ TEST_F(Handlers, AttributeDialogMeasuresAreTrimmed) {
     platform.dialogItems = {{150, u" 650 "}, {151, u"720"}, {152, u"560"}};
     host.scene->objects[100].info[12] = u"600";
     EXPECT_TRUE(plugin.OnObjectAttributsDlgValidation(7));
-    EXPECT_EQ(rules::modVariables().medidaAncho, u"650");
+    EXPECT_EQ(common::modVariables().medidaAncho, u"650");
     EXPECT_EQ(host.scene->writes, (std::vector<fake::Write>{{100, 12, u"600"}}));
     EXPECT_EQ(textos(), (std::vector<String>{u"Una"}));
 }

@@ -6,10 +6,10 @@
 #include <map>
 
 #include "../rules/FakeHost.h"
-#include "handlers/Catalogo.h"
+#include "common/Catalogo.h"
+#include "common/ModVariables.h"
 #include "handlers/Preparacion.h"
 #include "host/CachingFactory.h"
-#include "rules/ModVariables.h"
 #include "vb/Conversions.h"
 
 namespace {
@@ -72,7 +72,7 @@ Tablas catalogoC() {
 struct Reglas {
     std::vector<String> modelos;
     int16_t numModelos;
-    std::array<rules::ListaExcepciones, rules::kNumTipos> excepciones;
+    std::array<common::ListaExcepciones, common::kNumTipos> excepciones;
     std::vector<std::vector<bool>> permisos;
     bool error;
     bool operator==(const Reglas&) const = default;
@@ -85,8 +85,8 @@ struct Juego {
 
 // One call that loads and prepares `ficheros` in turn; the rule tables after each step.
 Juego juega(ReadMode mode, const std::vector<String>& ficheros, int fallosTabla8) {
-    auto& mv = rules::modVariables();
-    mv = rules::ModVariables{};
+    auto& mv = common::modVariables();
+    mv = common::ModVariables{};
     mv.modelos = {u"V1", u"V2", u"V3", u"V4", u"V5", u"V6"};  // an earlier catalogue's
     mv.excepciones[2] = std::vector<String>{u"", u"VIEJA"};
     fake::Platform platform;
@@ -114,7 +114,7 @@ Juego juega(ReadMode mode, const std::vector<String>& ficheros, int fallosTabla8
     for (size_t i = 0; i < ficheros.size(); ++i) {
         bool error = false;
         try {
-            handlers::cargaCatalogoObjeto(env, id += 10);
+            common::cargaCatalogoObjeto(env, id += 10);
             handlers::preparaReglasDe(id, true);
         } catch (const vb::RuntimeError&) {
             error = true;
@@ -122,7 +122,7 @@ Juego juega(ReadMode mode, const std::vector<String>& ficheros, int fallosTabla8
         juego.pasos.push_back(
             {mv.modelos, mv.numModelos, mv.excepciones, mv.permisosModelo, error});
     }
-    mv = rules::ModVariables{};
+    mv = common::ModVariables{};
     juego.preguntas = host.calls.byMember;
     return juego;
 }

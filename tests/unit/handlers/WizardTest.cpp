@@ -3,7 +3,7 @@
 
 #include "../CaseNames.h"
 #include "../rules/FakeHost.h"
-#include "rules/ModVariables.h"
+#include "common/ModVariables.h"
 #include "wizard/Wizard.h"
 
 namespace {
@@ -145,10 +145,10 @@ TEST(WizardSetUp, InicEspForgetsMarkerChildren) {
     fake::Factory host;
     env::Env env{platform, host};
     wizard::Wizard wizard{env};
-    rules::modVariables().hayHijoEsp.fill(true);
+    common::modVariables().hayHijoEsp.fill(true);
     wizard.InicEsp();
-    for (bool b : rules::modVariables().hayHijoEsp) EXPECT_FALSE(b);
-    EXPECT_EQ(rules::modVariables().codigosMO.size(), 8u);
+    for (bool b : common::modVariables().hayHijoEsp) EXPECT_FALSE(b);
+    EXPECT_EQ(common::modVariables().codigosMO.size(), 8u);
 }
 
 }  // namespace

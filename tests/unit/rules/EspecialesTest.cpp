@@ -14,7 +14,7 @@ using vb::String;
 class Catalogo : public testing::Test {
   protected:
     void SetUp() override {
-        mv = rules::ModVariables{};
+        mv = common::ModVariables{};
         auto& t8 = host.catalog->tables[8];
         t8 = {{u"M01", u"", {{1, u"M01"}, {3, u"TIBER"}, {4, u"s"}}},
               {u"M02", u"", {{1, u"M02"}, {3, u"MONZA"}, {4, u"s"}}},
@@ -32,7 +32,7 @@ class Catalogo : public testing::Test {
         for (int m = 0; m < mv.numModelos; ++m) c.push_back(rules::permiso(mv, m, k));
         return c;
     }
-    rules::ModVariables& mv = rules::modVariables();
+    common::ModVariables& mv = common::modVariables();
     fake::Factory host;
     int32_t session = 1;
 };

@@ -66,7 +66,7 @@ class Objeto : public testing::TestWithParam<Case> {
         s.objects[102].info[4] = u"EAl_1";
         s.objects[103].info[4] = u"EF_1";
         s.objects[104].info = {{4, u"FRENTE_DESC"}, {7, u"D1"}};
-        mv = rules::ModVariables{};
+        mv = common::ModVariables{};
         mv.miAppli = host.appli;
         mv.miScene = host.scene;
         mv.miCatalog = host.catalog;
@@ -82,7 +82,7 @@ class Objeto : public testing::TestWithParam<Case> {
         return rules::procesaObjeto(platform, actual, {c.ancho, c.alto, c.fondo}, 100, concatenar,
                                     c.funcion);
     }
-    rules::ModVariables& mv = rules::modVariables();
+    common::ModVariables& mv = common::modVariables();
     fake::Factory host;
     fake::Platform platform;
     rules::ObjetoActual actual;

@@ -2,7 +2,7 @@
 // the attribute dialog and message boxes.
 #include <gtest/gtest.h>
 
-#include "handlers/Catalogo.h"
+#include "common/Catalogo.h"
 #include "native/IniProfile.h"
 #include "native/SimPlatform.h"
 #include "vb/Errors.h"
@@ -147,15 +147,14 @@ TEST(CatalogueDirectory, SectionsInTheCallersOrder) {
         sim::Simulation simulation(std::move(world));
         native::SimPlatform platform(simulation);
         env::Env env{platform, simulation.factory(), nullptr};
-        EXPECT_EQ(handlers::leeDirCatalogos(env), c.expected)
-            << (c.ini ? vb::toUtf8(c.ini) : "none");
+        EXPECT_EQ(common::leeDirCatalogos(env), c.expected) << (c.ini ? vb::toUtf8(c.ini) : "none");
     }
     sim::World world;
     world.files.putFile(u"C:\\Quorbel\\SPACE.INI", u"[InSitu]\r\nCatalogsDir=" + long70);
     sim::Simulation simulation(std::move(world));
     native::SimPlatform platform(simulation);
     env::Env env{platform, simulation.factory(), nullptr};
-    EXPECT_EQ(handlers::leeDirCatalogos(env), long70.substr(0, 63));
+    EXPECT_EQ(common::leeDirCatalogos(env), long70.substr(0, 63));
 }
 
 }  // namespace
