@@ -1,4 +1,5 @@
-// The components handlers of `Wizard`: the special-editing dialog for catalogues 31 to 33.
+// The components handlers of `Wizard`: the special-editing dialog for catalogues 31 to 33, in
+// the components session with its error trap (no view refresh).
 #include "common/Catalogo.h"
 #include "common/ModVariables.h"
 #include "dialog/Apertura.h"
@@ -43,23 +44,8 @@ bool abreDialogo(Wizard& w, env::Env& env) {
 }  // namespace
 
 bool Wizard::OnObjectComponentsBefore(int32_t lCallParamsBlock) {
-    auto& mv = common::modVariables();
-    dialog::LiberaObjetos libera;
-    bool resultado = false;
-    try {
-        mv.numTiposEsp = 7;
-        mv.miAppli = host::createAppli(env_.factory);
-        mv.miScene = host::createScene(env_.factory);
-        mv.miCatalog = host::createCatalog(env_.factory);
-        int32_t bloque = lCallParamsBlock;
-        mv.miSessionId = vb::CLng(host::use(mv.miAppli).StartSessionFromCallParams(bloque));
-        if (mv.miSessionId != 0) resultado = abreDialogo(*this, env_);
-    } catch (const vb::RuntimeError& error) {
-        dialog::avisaErrorComponentes(env_.platform, error);
-        resultado = true;
-    }
-    if (mv.miAppli) host::use(mv.miAppli).EndSession(mv.miSessionId);
-    return resultado;
+    return dialog::sesionComponentes(env_, lCallParamsBlock, false,
+                                     [&] { return abreDialogo(*this, env_); });
 }
 
 bool Wizard::ObjectWizard(int32_t lCallParamsBlock) {
