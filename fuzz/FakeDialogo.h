@@ -1,6 +1,7 @@
 #pragma once
-// A small host and platform for tests of the dialog model: scene objects with information
-// codes, children and scripts; table 2 texts; a record of writes, messages and beeps.
+// The small host and platform the cut-out document target plays the dialog on (the unit tests
+// use the simulated host): scene objects with information codes, children and scripts; table 2
+// texts; a record of writes, messages and beeps.
 #include <map>
 #include <memory>
 #include <tuple>
