@@ -220,6 +220,30 @@ GOLDEN = {
 }
 
 
+def asistente(*muebles):
+    """A Wizard placement of each cabinet, in a scene of those cabinets only."""
+    return escenario([call("OnObjectPlaceAfter", m["id"], "Wizard") for m in muebles],
+                     escena=list(muebles))
+
+
+# The Wizard's other cases: only the depth changed (nothing to do), an exempt code of Xey, a
+# listed door model of Vegasa, an article without a line in table 3, and catalogue numbers
+# that are empty or no number (no case at all).
+GOLDEN.update({
+    "wizard/forma_only_depth_changed.json": asistente(
+        mueble(380, "forma10", "31", "1012-60", "1012-60", "NEVADA", "600", "600", "720")),
+    "wizard/xey_exempt.json": asistente(
+        mueble(390, "xey10", "32", "2501-60", "2501-60", "NEVADA", "650", "560", "720")),
+    "wizard/vegasa_listed.json": asistente(
+        mueble(400, "vegasa10", "33", "LPR-60", "LPR-60", "MUNICH", "650", "560", "720")),
+    "wizard/no_article_line.json": asistente(
+        mueble(410, "forma10", "31", "9999-60", "9999-60", "TIBER", "650", "560", "720")),
+    "wizard/number_not_a_number.json": asistente(
+        mueble(420, "forma10", "", "1012-60", "1012-60", "TIBER", "650", "560", "720"),
+        mueble(430, "forma10", "abc", "1012-60", "1012-60", "TIBER", "650", "560", "720")),
+})
+
+
 def subcarpetas():
     """The catalogue directory only in [Remote]; the catalogue in two sub-folders (the one
     listed later wins) and an empty file of the same name in a third (not taken)."""
