@@ -37,15 +37,6 @@ struct Banco : tests::OpenCall {
         return o ? *o : world().scene.add(id, padre);
     }
 
-    // What was written since the last look, as "id.code=value".
-    std::vector<std::string> escrituras() {
-        std::vector<std::string> hechas;
-        for (const auto& e : events("setInfo"))
-            hechas.push_back(std::to_string(e["object"].get<int32_t>()) + "." +
-                             std::to_string(e["code"].get<int32_t>()) + "=" +
-                             e["value"].get<std::string>());
-        return hechas;
-    }
     // The texts of the message boxes shown since the last look.
     std::vector<std::string> mensajes() {
         std::vector<std::string> textos;

@@ -105,7 +105,7 @@ TEST(GuardaSeleccion, WritesOnlyWhatDiffers) {
     banco.objeto(2).info[59] = u"1";
     banco.objeto(3).info[59] = u"";
     f.guardaSeleccion();
-    EXPECT_EQ(banco.escrituras(), (std::vector<std::string>{"2.59=0", "3.59=1"}));
+    EXPECT_EQ(banco.writes(), (std::vector<std::string>{"2.59=0", "3.59=1"}));
 }
 
 }  // namespace
