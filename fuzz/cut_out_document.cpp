@@ -3,9 +3,9 @@
 // back (CadenaCajeos), reading that again and annotating the recess components (anotaCajeos) keep
 // their described outcomes.
 //
-// The dialog has three recesses (rows 0-1, rows 2-3-4, no rows) on the fake host of the dialog
-// tests. The input is a first byte whose low three bits select the recesses, then texts cut at
-// 0xFF: the stored document, the three recess titles and the five row labels.
+// The dialog has three recesses (rows 0-1, rows 2-3-4, no rows) on the small host of
+// FakeDialogo.h. The input is a first byte whose low three bits select the recesses, then
+// texts cut at 0xFF: the stored document, the three recess titles and the five row labels.
 //
 // Properties:
 // - a stored text that does not load changes no row; one that loads only puts whole numbers
