@@ -3,9 +3,9 @@
 // back (CadenaCajeos), reading that again and annotating the recess components (anotaCajeos) keep
 // their described outcomes.
 //
-// The dialog has three recesses (rows 0-1, rows 2-3-4, no rows) on the fake host of the dialog
-// tests. The input is a first byte whose low three bits select the recesses, then texts cut at
-// 0xFF: the stored document, the three recess titles and the five row labels.
+// The dialog has three recesses (rows 0-1, rows 2-3-4, no rows) on the small host of
+// FakeDialogo.h. The input is a first byte whose low three bits select the recesses, then
+// texts cut at 0xFF: the stored document, the three recess titles and the five row labels.
 //
 // Properties:
 // - a stored text that does not load changes no row; one that loads only puts whole numbers
@@ -93,7 +93,7 @@ void prepare(fakedlg::Banco& banco, const std::vector<String>& t, unsigned selec
 }
 
 bool load(fakedlg::Banco& banco, const String& text) {
-    auto& mv = rules::modVariables();
+    auto& mv = common::modVariables();
     mv.docCajeos = dialog::cargaCajeos(banco.plataforma, text);
     return mv.docCajeos->documentElement() != nullptr;
 }
@@ -132,7 +132,7 @@ void checkWriting(fakedlg::Banco& banco, unsigned selected, bool clean) {
         ++recesses;
         rows += kRowsOf[i];
     }
-    const auto& doc = *rules::modVariables().docCajeos;
+    const auto& doc = *common::modVariables().docCajeos;
     FUZZ_CHECK(doc.getElementsByTagName(u"CAJEO").size() == recesses);
     FUZZ_CHECK(doc.getElementsByTagName(u"PARAM").size() == rows);
 

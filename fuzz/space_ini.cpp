@@ -10,7 +10,7 @@
 // - leeDirCatalogosTexto never fails on a file that is there, and answers text between two
 //   "=" of a line holding "CatalogsDir=" ("" when none does).
 #include "FuzzCheck.h"
-#include "handlers/Catalogo.h"
+#include "common/Catalogo.h"
 #include "native/IniProfile.h"
 #include "native/SimPlatform.h"
 #include "sim/Player.h"
@@ -55,11 +55,11 @@ void checkHandlersReaders(const String& file) {
     native::SimPlatform platform(simulation);
     env::Env env{platform, simulation.factory(), nullptr};
 
-    const String perfil = handlers::leeDirCatalogos(env);
+    const String perfil = common::leeDirCatalogos(env);
     FUZZ_CHECK(perfil.size() <= 63 && isOneLineOf(perfil, file));
     if (vb::InStr(file, u"CatalogsDir", Compare::Text) == 0) FUZZ_CHECK(perfil.empty());
 
-    const String texto = handlers::leeDirCatalogosTexto(env);
+    const String texto = common::leeDirCatalogosTexto(env);
     FUZZ_CHECK(isOneLineOf(texto, file) && !contains(texto, u"="));
     if (!contains(file, u"CatalogsDir=")) FUZZ_CHECK(texto.empty());
 }

@@ -8,45 +8,17 @@ then regenerate the expected transcripts with quorbel-sim and read them before c
 import copy
 import json
 import os
+import sys
+
+sys.dont_write_bytecode = True  # no cache beside the samples
+import textos  # noqa: E402  (the sample catalogues' texts, shared with make_scenarios.py)
 
 MODULE = "C:\\Quorbel"
 CATS = MODULE + "\\Catalogs"
 
-TEXTOS = {
-    "TR_9001": "Atención",
-    "TR_9014": "Las medidas modificadas no están permitidas para este modelo de puerta.",
-    "TR_9015": "La medida modificada no está permitida para este modelo de puerta.",
-    "TR_9016": "Se ha restaurado la medida de catálogo.",
-    "TR_9017": "Muebles con medidas no permitidas:",
-    "TR_9021": "Modelo del programa ST: consulte los plazos de entrega.",
-}
-# The special-editing dialog's texts: captions, the names of the two kinds of diagonal, and
-# its messages (quorbel-sim lint finds a catalogue without them).
-TEXTOS_DIALOGO = {
-    "TR_0001": "Edición de especiales",
-    "TR_0002": "Costados", "TR_0003": "Frentes", "TR_0004": "Equip. interior",
-    "TR_0005": "Otros", "TR_0006": "Tipos de especiales", "TR_0007": "Diagonales",
-    "TR_0008": "Encastres de pilar",
-    "TR_0009": "ANCHO", "TR_0010": "ALTO", "TR_0011": "FONDO", "TR_0012": "ANCHO - ALTO",
-    "TR_0013": "ANCHO - FONDO", "TR_0014": "ALTO - FONDO", "TR_0015": "ANCHO - ALTO - FONDO",
-    "TR_0016": "Medidas", "TR_0017": "Ancho:", "TR_0018": "Alto:", "TR_0019": "Fondo:",
-    "TR_0021": "Cancelar valores",
-    "TR_0022": "Seleccione el tipo de especial a modificar.",
-    "TR_0023": "Seleccione la forma de la diagonal.",
-    "TR_0024": "No Disponible", "TR_0027": "Aceptar Componentes",
-    "TR_0028": "Salir sin guardar", "TR_0037": "Vista previa:", "TR_0038": "Valores:",
-    "TR_0043": "Este mueble no admite diagonal.", "TR_0044": "Medidas por defecto",
-    "TR_0046": "Diagonal por longitudes", "TR_0047": "Diagonal por ángulo",
-    "TR_9003": "Las medidas especiales no han cambiado:",
-    "TR_9004": "Medidas sin cambio",
-    "TR_9006": "Encastres de pilar",
-    "TR_9007": "Diagonal",
-    "TR_9010": "Un valor de encastre supera su máximo.",
-    "TR_9011": "Falta un valor de encastre.",
-    "TR_9018": "Ancho fuera de límites: ",
-    "TR_9019": "Alto fuera de límites: ",
-    "TR_9020": "Fondo fuera de límites: ",
-}
+TEXTOS = textos.MENSAJES
+# The special-editing dialog's texts (quorbel-sim lint finds a catalogue without them).
+TEXTOS_DIALOGO = {k: v for k, v in textos.DIALOGO.items() if k not in TEXTOS}
 INGLES = {
     "Atención": "Attention",
     TEXTOS["TR_9014"]: "The changed measures are not allowed for this door model.",
@@ -246,6 +218,30 @@ GOLDEN = {
                                               call("OnObjectPlaceAfter", 300, "Wizard",
                                                    session=False)]),
 }
+
+
+def asistente(*muebles):
+    """A Wizard placement of each cabinet, in a scene of those cabinets only."""
+    return escenario([call("OnObjectPlaceAfter", m["id"], "Wizard") for m in muebles],
+                     escena=list(muebles))
+
+
+# The Wizard's other cases: only the depth changed (nothing to do), an exempt code of Xey, a
+# listed door model of Vegasa, an article without a line in table 3, and catalogue numbers
+# that are empty or no number (no case at all).
+GOLDEN.update({
+    "wizard/forma_only_depth_changed.json": asistente(
+        mueble(380, "forma10", "31", "1012-60", "1012-60", "NEVADA", "600", "600", "720")),
+    "wizard/xey_exempt.json": asistente(
+        mueble(390, "xey10", "32", "2501-60", "2501-60", "NEVADA", "650", "560", "720")),
+    "wizard/vegasa_listed.json": asistente(
+        mueble(400, "vegasa10", "33", "LPR-60", "LPR-60", "MUNICH", "650", "560", "720")),
+    "wizard/no_article_line.json": asistente(
+        mueble(410, "forma10", "31", "9999-60", "9999-60", "TIBER", "650", "560", "720")),
+    "wizard/number_not_a_number.json": asistente(
+        mueble(420, "forma10", "", "1012-60", "1012-60", "TIBER", "650", "560", "720"),
+        mueble(430, "forma10", "abc", "1012-60", "1012-60", "TIBER", "650", "560", "720")),
+})
 
 
 def subcarpetas():

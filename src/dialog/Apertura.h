@@ -1,6 +1,9 @@
 #pragma once
-// What both components handlers share: showing the dialog through the shell's view, the
-// error trap's message, and the missing-catalogue message.
+// What both components handlers share: their session with its error trap, showing the dialog
+// through the shell's view, the trap's message, and the missing-catalogue message.
+#include <cstdint>
+#include <functional>
+
 #include "env/Env.h"
 #include "vb/Errors.h"
 
@@ -17,13 +20,12 @@ void avisaErrorComponentes(platform::Platform& platform, const vb::RuntimeError&
 // "Error: no se encontró el archivo <ruta>." with the critical-stop icon.
 void avisaCatalogoAusente(platform::Platform& platform, const vb::String& ruta);
 
-// Releases the shared host objects when a components handler returns, also after an error.
-class LiberaObjetos {
-  public:
-    LiberaObjetos() = default;
-    ~LiberaObjetos();
-    LiberaObjetos(const LiberaObjetos&) = delete;
-    LiberaObjetos& operator=(const LiberaObjetos&) = delete;
-};
+// The session of a components handler, Plugin's or Wizard's: numTiposEsp = 7, the shared host
+// objects created and the shared session opened, then `trabajo` (its answer is the result) when
+// the session is open. A runtime error raised meanwhile is shown (avisaErrorComponentes) and
+// makes the result true. Then ViewRefresh when `refresca`, EndSession, and the shared objects
+// released, also when one of those two raises.
+bool sesionComponentes(env::Env& env, int32_t lCallParamsBlock, bool refresca,
+                       const std::function<bool()>& trabajo);
 
 }  // namespace dialog

@@ -1,14 +1,14 @@
 #include "dialog/Explicaciones.h"
 
+#include "common/Explicacion.h"
 #include "rules/ExplicaDimension.h"
-#include "rules/Explicacion.h"
 #include "vb/Conversions.h"
 
 namespace dialog {
 
 namespace {
 
-using rules::entreComillas;
+using common::entreComillas;
 
 const char16_t* const kMedidas[3] = {u"width", u"height", u"depth"};  // measure boxes 0, 1, 2
 const char16_t* const kLimites[3][2] = {{u"LMIN", u"LMAX"}, {u"HMIN", u"HMAX"}, {u"PMIN", u"PMAX"}};
@@ -82,7 +82,7 @@ String explicaScriptIlegible(const String& descripcion) {
 
 String explicaMedida(int k, const String& texto, double min, double max, bool dentro,
                      bool anotada) {
-    const String medida = rules::mayusculaInicial(kMedidas[k]) + u" " + entreComillas(texto);
+    const String medida = common::mayusculaInicial(kMedidas[k]) + u" " + entreComillas(texto);
     const String limites = String(kLimites[k][0]) + u" " + numero(min) + u" .. " + kLimites[k][1] +
                            u" " + numero(max) + u" of the cabinet's script";
     if (dentro) return medida + u" lies within " + limites + u".";

@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <optional>
 
+#include "common/Explicacion.h"
 #include "dialog/Explicaciones.h"
-#include "rules/Explicacion.h"
 #include "vb/Conversions.h"
 #include "vb/Errors.h"
 #include "vb/Strings.h"
@@ -83,14 +83,14 @@ bool limitesScript(const String& script, bool checkL, bool checkH, bool checkP,
         if (hi == kMaximoDefecto && lo == kMinimoDefecto) return;
         double v = vb::CDbl(vb::Variant(value));
         ok = v >= lo && v <= hi;
-        if (!ok) rules::explica([&] { return explicaLimites(nMin, lo, nMax, hi, medida, value); });
+        if (!ok) common::explica([&] { return explicaLimites(nMin, lo, nMax, hi, medida, value); });
     };
     try {
         if (checkL) par(u"LMIN", u"LMAX", valueL, u"width");
         if (checkH && ok) par(u"HMIN", u"HMAX", valueH, u"height");
         if (checkP && ok) par(u"PMIN", u"PMAX", valueP, u"depth");
     } catch (const vb::RuntimeError& e) {
-        rules::explica([&] { return explicaScriptIlegible(e.description()); });
+        common::explica([&] { return explicaScriptIlegible(e.description()); });
         avisaError(e.description());
     }
     return ok;

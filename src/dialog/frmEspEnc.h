@@ -7,11 +7,11 @@
 #include <memory>
 #include <vector>
 
+#include "common/ModVariables.h"
+#include "common/Textos.h"
 #include "dialog/Controles.h"
 #include "dialog/PanelEncastres.h"
 #include "env/Env.h"
-#include "handlers/Textos.h"
-#include "rules/ModVariables.h"
 
 namespace dialog {
 
@@ -157,7 +157,7 @@ class frmEspEnc {
     String carpetaTemporal();
 
     // Host context and platform of the current call.
-    rules::ModVariables& mv() { return mv_; }
+    common::ModVariables& mv() { return mv_; }
     platform::Platform& plataforma() { return env_.platform; }
     env::Env& env() { return env_; }
 
@@ -165,8 +165,8 @@ class frmEspEnc {
     void diseno();
     void leeObjeto();
     void mensaje(const String& texto, const String& titulo, platform::MsgIcon icono);
-    handlers::Idiomas idiomas();  // both languages; traducir ignores case
-    String textoClave(const handlers::Idiomas& idiomas, const String& clave);
+    common::Idiomas idiomas();  // both languages; traducir ignores case
+    String textoClave(const common::Idiomas& idiomas, const String& clave);
     // The recess panel (frmEspEnc_Panel.cpp): each recess's title and rows as read at load, so
     // that the panel can be laid out again, titles first, when they do not all fit.
     struct FilaEncastre {
@@ -208,7 +208,7 @@ class frmEspEnc {
     void creaCarpetaTemporal();
 
     env::Env& env_;
-    rules::ModVariables& mv_;
+    common::ModVariables& mv_;
     bool cargado_ = false;
     bool descargado_ = false;
     Panel panel_;

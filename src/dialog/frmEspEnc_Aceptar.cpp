@@ -3,11 +3,11 @@
 #include <cmath>
 #include <optional>
 
+#include "common/Explicacion.h"
 #include "dialog/Explicaciones.h"
 #include "dialog/ScriptParametros.h"
 #include "dialog/TextoCajeos.h"
 #include "dialog/frmEspEnc.h"
-#include "rules/Explicacion.h"
 #include "vb/Conversions.h"
 #include "vb/Strings.h"
 
@@ -74,7 +74,7 @@ bool enRango(std::optional<int32_t> v, double min, double max) {
 }  // namespace
 
 struct frmEspEnc::Pasada {
-    handlers::Idiomas idiomas;
+    common::Idiomas idiomas;
     bool cambiado = true, enLimites = true, documento = true, diagonal = true;
     String erroresMedidas, medidasSinCambio, errorCajeos, errorDiagonal, rotuloDiagonal;
 };
@@ -92,7 +92,7 @@ void frmEspEnc::btnAcptComp_Click() {
     auto aviso = [&](const String& prompt, const String& titulo) {
         mensaje(prompt, titulo, platform::MsgIcon::Information);
     };
-    auto porque = [](const char16_t* texto) { rules::explica([&] { return String(texto); }); };
+    auto porque = [](const char16_t* texto) { common::explica([&] { return String(texto); }); };
     if (p.cambiado && p.enLimites && p.documento && p.diagonal) {
         porque(u"Every check passed: the edits are written and the dialog closes.");
         escriturasCompletas(p);
@@ -129,12 +129,12 @@ void frmEspEnc::compruebaMedidas(Pasada& p, const double* min, const double* max
         if (!TextMedEsp[k].Enabled) continue;
         const String& t = TextMedEsp[k].Text;
         if (vb::equalText(t, medidasActuales[k])) {
-            rules::explica([&] {
+            common::explica([&] {
                 return u"The " +
                        String(k == 0   ? u"width"
                               : k == 1 ? u"height"
                                        : u"depth") +
-                       u" is special but still " + rules::entreComillas(t) +
+                       u" is special but still " + common::entreComillas(t) +
                        u", its value when the dialog opened.";
             });
             p.cambiado = p.enLimites = false;
@@ -155,7 +155,7 @@ void frmEspEnc::compruebaMedidas(Pasada& p, const double* min, const double* max
             p.erroresMedidas += linea();
             anotada = true;
         }
-        rules::explica([&] { return explicaMedida(k, t, min[k], max[k], dentro, anotada); });
+        common::explica([&] { return explicaMedida(k, t, min[k], max[k], dentro, anotada); });
     }
 }
 
@@ -167,7 +167,7 @@ void frmEspEnc::compruebaCajeos(Pasada& p) {
         textoCajeosNuevo.clear();
         p.documento = false;
         p.errorCajeos = textoClave(p.idiomas, clave);
-        rules::explica([&] {
+        common::explica([&] {
             return u"A recess value fails its check: " +
                    (clave == u"TR_9010" ? String(u"it is above its maximum (TR_9010).")
                                         : String(u"it is empty or not a whole number (TR_9011)."));
@@ -207,8 +207,8 @@ void frmEspEnc::compruebaDiagonal(Pasada& p) {
         if (!p.diagonal) return;  // the first failure is the one reported
         p.diagonal = false;
         p.errorDiagonal = m;
-        rules::explica([&] {
-            return u"Diagonal: " + rules::entreComillas(m) +
+        common::explica([&] {
+            return u"Diagonal: " + common::entreComillas(m) +
                    u" (L1 must lie within 0 and the "
                    u"width, L2 within 0 and the depth, L3 within 0 and L1 + L2, the angle within "
                    u"0 and 180).";

@@ -4,9 +4,9 @@
 #include <unordered_set>
 #include <vector>
 
+#include "common/Explicacion.h"
 #include "dialog/Explicaciones.h"
 #include "dialog/frmEspEnc.h"
-#include "rules/Explicacion.h"
 #include "vb/Conversions.h"
 #include "vb/Strings.h"
 
@@ -125,32 +125,32 @@ void frmEspEnc::clasificaHijo(int32_t child, bool& tieneHijos, std::array<int16_
             if (!mv_.prefijosEsp[k].empty() &&
                 vb::InStr(code, mv_.prefijosEsp[k], vb::Compare::Text) > 0) {
                 mv_.hayHijoEsp[k] = true;
-                mv_.hijosHallados[k] = {child, -2, rules::llamadaExplicada()};
+                mv_.hijosHallados[k] = {child, -2, common::llamadaExplicada()};
             }
     }
     if (!fits) {
-        rules::explica([&] {
+        common::explica([&] {
             return explicaNoListado(code, child,
                                     u"its script's limits exclude the cabinet's measures");
         });
     } else if (const vb::Variant elegible = scene.ObjectGetInfo(sid, child, 58);
                !vb::equalText(CStr(elegible), u"1")) {
-        rules::explica([&] {
+        common::explica([&] {
             return explicaNoListado(code, child,
                                     u"its information 58 is " +
-                                        rules::entreComillas(rules::textoDe(elegible)) +
+                                        common::entreComillas(common::textoDe(elegible)) +
                                         u", not \"1\"");
         });
     } else {
         int lista = listaDeCodigo(code);
         if (lista == kListaDiagonal) {
-            rules::explica([&] { return explicaDiagonal(code, child); });
+            common::explica([&] { return explicaDiagonal(code, child); });
             ImageDiagonal[0].Enabled = ImageDiagonal[1].Enabled = true;
             idDiagonal = child;
         } else if (lista >= 0 && cuentas[lista] < kMaximoEntero - 1) {
             listaComponente(child, lista, cuentas, nivel, script);
         } else {
-            rules::explica([&] {
+            common::explica([&] {
                 return explicaNoListado(code, child,
                                         lista < 0
                                             ? u"its code holds none of CS_, FR_, EQ_, O_, _CJ, _DG"

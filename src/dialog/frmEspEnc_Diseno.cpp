@@ -144,7 +144,7 @@ void disenaDiagonales(frmEspEnc& f) {
 
 }  // namespace
 
-frmEspEnc::frmEspEnc(env::Env& env) : env_(env), mv_(rules::modVariables()) {
+frmEspEnc::frmEspEnc(env::Env& env) : env_(env), mv_(common::modVariables()) {
     diseno();
     panel_.valorDiseno = EtiqValorEnc[0];
     panel_.cajaDiseno = TxtValoresEnc[0];

@@ -1,9 +1,9 @@
 // The frame: loading in its fixed order, caption translation, the recess panel's scrolling,
 // press feedback and the write-back at unload.
+#include "common/Catalogo.h"
 #include "dialog/Registro.h"
 #include "dialog/TextoCajeos.h"
 #include "dialog/frmEspEnc.h"
-#include "handlers/Catalogo.h"
 #include "rules/Refresco.h"
 #include "vb/Conversions.h"
 #include "vb/Strings.h"
@@ -16,7 +16,7 @@ using vb::CStr;
 
 namespace {
 
-String celdaTabla2(rules::ModVariables& mv, const String& codigo) {
+String celdaTabla2(common::ModVariables& mv, const String& codigo) {
     int32_t rango =
         CLng(use(mv.miCatalog).TableGetLineRankFromCode(mv.miSessionId, 2, 0, 1, codigo, false));
     return CStr(use(mv.miCatalog).TableGetLineInfo(mv.miSessionId, 2, 0, rango, 9));
@@ -31,7 +31,7 @@ void frmEspEnc::Form_Load() {
         vb::CInt(vb::Variant(static_cast<double>(EtiqValorEnc[0].Top) + EtiqValorEnc[0].Height));
     picout_Resize();
     String icono = plataforma().moduleFolder() + u"\\IconAsist.ico";
-    if (handlers::tamanoArchivo(env_, icono) != 0) Icon = icono;
+    if (common::tamanoArchivo(env_, icono) != 0) Icon = icono;
     leeObjeto();
     numListas = {};
     nivelArbol = 0;
@@ -89,16 +89,16 @@ void frmEspEnc::Unload() {
     Form_Unload();
 }
 
-handlers::Idiomas frmEspEnc::idiomas() {
-    handlers::Idiomas id;
+common::Idiomas frmEspEnc::idiomas() {
+    common::Idiomas id;
     id.aplicacion = CStr(use(mv_.miAppli).GetLanguage(mv_.miSessionId));
     id.catalogo = CStr(use(mv_.miCatalog).GetInfo(mv_.miSessionId, 17));
     id.traducir = !vb::equalText(id.aplicacion, id.catalogo);
     return id;
 }
 
-String frmEspEnc::textoClave(const handlers::Idiomas& id, const String& clave) {
-    return handlers::traduce(id, handlers::textoCatalogo(clave));
+String frmEspEnc::textoClave(const common::Idiomas& id, const String& clave) {
+    return common::traduce(id, common::textoCatalogo(clave));
 }
 
 String frmEspEnc::CadenaMedidas(int k) {
@@ -118,15 +118,14 @@ void frmEspEnc::traduceControles() {
         if (ImageDiagonal[0].Enabled || !vb::equalText(c.Tag, u"TR_0023")) {
             // Every tagged control reads its cell and translates it, whatever the rank; a key
             // without a line keeps the designed caption.
-            String texto =
-                handlers::traduce(id, CStr(catalog.TableGetLineInfo(sid, 2, 0, rango, 9)));
+            String texto = common::traduce(id, CStr(catalog.TableGetLineInfo(sid, 2, 0, rango, 9)));
             if (rango > 0 && caption) *caption = texto;
             return;
         }
         int32_t r43 = CLng(catalog.TableGetLineRankFromCode(sid, 2, 0, 1, u"TR_0043", false));
         if (r43 > 0)
             EtiqInfoDiag.Caption =
-                handlers::traduce(id, CStr(catalog.TableGetLineInfo(sid, 2, 0, r43, 9)));
+                common::traduce(id, CStr(catalog.TableGetLineInfo(sid, 2, 0, r43, 9)));
     };
     paraCadaControl(*this, [&](const char16_t*, auto* c, size_t n) {
         for (size_t i = 0; i < n; ++i) traduceUno(c[i], captionDe(c[i]));

@@ -3,10 +3,10 @@
 #include <array>
 #include <vector>
 
+#include "common/Explicacion.h"
 #include "dialog/Explicaciones.h"
 #include "dialog/Teclado.h"
 #include "dialog/frmEspEnc.h"
-#include "rules/Explicacion.h"
 #include "rules/Modelos.h"
 #include "rules/Refresco.h"
 #include "vb/Conversions.h"
@@ -37,7 +37,7 @@ void frmEspEnc::ofreceTipos() {
                        static_cast<size_t>(k) < mv_.permisosModelo[r].size() &&
                        mv_.permisosModelo[r][k];
         bool ofrecido = (mv_.idsHijosEsp[k] != -2 && permiso) || excepcion;
-        rules::explica([&] {
+        common::explica([&] {
             return explicaTipo({k, ofrecido, excepcion, permiso, mv_.idsHijosEsp[k], modelo,
                                 referencia, static_cast<int>(r), hallado});
         });
@@ -112,7 +112,7 @@ void frmEspEnc::ocultaTiposFijos() {
         for (int m : kCajasDeTipo[k]) {
             if (todas && !variable[m]) {
                 static const int32_t kInformacion[3] = {15, 17, 16};
-                rules::explica([&] { return explicaTipoOculto(k, m, kInformacion[m]); });
+                common::explica([&] { return explicaTipoOculto(k, m, kInformacion[m]); });
             }
             todas = todas && variable[m];
         }

@@ -1,59 +1,45 @@
 // The components handlers of `Plugin`: open the special-editing dialog for the object of the
-// event, with the error trap that reports any runtime error raised meanwhile.
+// event, in the components session with its error trap.
+#include "common/Catalogo.h"
+#include "common/ModVariables.h"
 #include "dialog/Apertura.h"
-#include "handlers/Catalogo.h"
 #include "handlers/Plugin.h"
 #include "handlers/Preparacion.h"
 #include "host/Factory.h"
-#include "rules/ModVariables.h"
 #include "vb/Conversions.h"
 
 namespace handlers {
 
 namespace {
 
-void abreSesion(Env& env, rules::ModVariables& mv, int32_t lCallParamsBlock) {
-    mv.miAppli = host::createAppli(env.factory);
-    mv.miScene = host::createScene(env.factory);
-    mv.miCatalog = host::createCatalog(env.factory);
-    int32_t bloque = lCallParamsBlock;
-    mv.miSessionId = vb::CLng(host::use(mv.miAppli).StartSessionFromCallParams(bloque));
-}
-
-void leeMedidas(rules::ModVariables& mv) {
+void leeMedidas(common::ModVariables& mv) {
     auto& scene = host::use(mv.miScene);
     mv.medidaAncho = vb::CStr(scene.ObjectGetInfo(mv.miSessionId, -2, 12));
     mv.medidaFondo = vb::CStr(scene.ObjectGetInfo(mv.miSessionId, -2, 13));
     mv.medidaAlto = vb::CStr(scene.ObjectGetInfo(mv.miSessionId, -2, 14));
 }
 
+// The work of an open session: the dialog when the object's catalogue loads.
+void abreDialogo(Env& env) {
+    auto& mv = common::modVariables();
+    mv.dirCatalogos = common::leeDirCatalogos(env) + u"\\";
+    leeMedidas(mv);
+    const common::CargaCatalogo carga = common::cargaCatalogoObjeto(env, -2);
+    if (!carga.cargado) {
+        dialog::avisaCatalogoAusente(env.platform, carga.ruta);
+        return;
+    }
+    preparaReglas();
+    dialog::muestraDialogo(env);
+}
+
 }  // namespace
 
 bool Plugin::OnObjectComponentsBefore(int32_t lCallParamsBlock) {
-    auto& mv = rules::modVariables();
-    dialog::LiberaObjetos libera;
-    bool resultado = false;
-    try {
-        mv.numTiposEsp = 7;
-        abreSesion(env_, mv, lCallParamsBlock);
-        if (mv.miSessionId != 0) {
-            mv.dirCatalogos = leeDirCatalogos(env_) + u"\\";
-            leeMedidas(mv);
-            CargaCatalogo carga = cargaCatalogoObjeto(env_, -2);
-            if (carga.cargado) {
-                preparaReglas();
-                dialog::muestraDialogo(env_);
-            } else {
-                dialog::avisaCatalogoAusente(env_.platform, carga.ruta);
-            }
-        }
-    } catch (const vb::RuntimeError& error) {
-        dialog::avisaErrorComponentes(env_.platform, error);
-        resultado = true;
-    }
-    if (mv.miScene) host::use(mv.miScene).ViewRefresh(mv.miSessionId);
-    if (mv.miAppli) host::use(mv.miAppli).EndSession(mv.miSessionId);
-    return resultado;
+    return dialog::sesionComponentes(env_, lCallParamsBlock, true, [&] {
+        abreDialogo(env_);
+        return false;
+    });
 }
 
 bool Plugin::ObjectWizard(int32_t lCallParamsBlock) {

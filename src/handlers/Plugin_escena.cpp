@@ -2,13 +2,13 @@
 // with one summary message.
 #include <optional>
 
-#include "handlers/Catalogo.h"
+#include "common/Catalogo.h"
+#include "common/Explicacion.h"
+#include "common/ModVariables.h"
+#include "common/Textos.h"
 #include "handlers/Plugin.h"
 #include "handlers/Preparacion.h"
-#include "handlers/Textos.h"
 #include "host/Session.h"
-#include "rules/Explicacion.h"
-#include "rules/ModVariables.h"
 #include "vb/Conversions.h"
 
 namespace handlers {
@@ -23,7 +23,7 @@ struct Sesion {
 // Checks one object; opens (and ends) a session of its own unless the caller's is open.
 void procesaObjetoSesion(Plugin& plugin, Sesion sesion, int32_t objectId, String& concatenar,
                          int16_t& laFuncion, bool prepara) {
-    auto& mv = rules::modVariables();
+    auto& mv = common::modVariables();
     std::optional<host::SessionScope> scope;
     if (!sesion.abierta) {
         scope.emplace(plugin.env().factory,
@@ -32,12 +32,12 @@ void procesaObjetoSesion(Plugin& plugin, Sesion sesion, int32_t objectId, String
         laFuncion = 3;
     }
     if (mv.miSessionId != 0) {
-        mv.dirCatalogos = leeDirCatalogos(plugin.env()) + u"\\";
+        mv.dirCatalogos = common::leeDirCatalogos(plugin.env()) + u"\\";
         auto& scene = host::use(mv.miScene);
         mv.medidaAncho = vb::CStr(scene.ObjectGetInfo(mv.miSessionId, objectId, 12));
         mv.medidaFondo = vb::CStr(scene.ObjectGetInfo(mv.miSessionId, objectId, 13));
         mv.medidaAlto = vb::CStr(scene.ObjectGetInfo(mv.miSessionId, objectId, 14));
-        cargaCatalogoObjeto(plugin.env(), objectId);
+        common::cargaCatalogoObjeto(plugin.env(), objectId);
         preparaReglasDe(objectId, prepara);
         plugin.procesaObjeto(mv.medidaAncho, mv.medidaAlto, mv.medidaFondo, objectId, concatenar,
                              laFuncion);
@@ -47,7 +47,7 @@ void procesaObjetoSesion(Plugin& plugin, Sesion sesion, int32_t objectId, String
 
 String explicaOmitido(int32_t id, const String& number) {
     return u"Object " + vb::numberText(id) + u" is not checked: its catalogue number " +
-           rules::entreComillas(number) + u" is not a number.";
+           common::entreComillas(number) + u" is not a number.";
 }
 
 String explicaCatalogo(int32_t id, int16_t catalogo, bool nuevo) {
@@ -58,12 +58,12 @@ String explicaCatalogo(int32_t id, int16_t catalogo, bool nuevo) {
 
 // The summary's texts are translated or not by the languages read when the check began: the
 // catalogue current then, not those the check loads.
-String explicaResumen(const Idiomas& idiomas, const String& mensaje) {
+String explicaResumen(const common::Idiomas& idiomas, const String& mensaje) {
     if (mensaje.empty()) return u"No cabinet was refused: no summary is shown.";
-    const String aplicacion = rules::entreComillas(idiomas.aplicacion);
-    const String catalogo = rules::entreComillas(idiomas.catalogo);
+    const String aplicacion = common::entreComillas(idiomas.aplicacion);
+    const String catalogo = common::entreComillas(idiomas.catalogo);
     return u"Summary TR_9017 shown (caption TR_9001) with the refused references " +
-           rules::entreComillas(mensaje) + u"; " +
+           common::entreComillas(mensaje) + u"; " +
            (idiomas.traducir
                 ? u"its texts go through the dictionary, as the application's language "
                 : u"its texts are shown as the catalogue writes them, as the "
@@ -90,10 +90,10 @@ bool Plugin::OnObjectFinishesAfter(int32_t lCallParamsBlock) {
 bool Plugin::OnSceneGenericFinishesAfter(int32_t lCallParamsBlock) {
     ultimoCatalogo = -1;
     String mensaje;
-    auto& mv = rules::modVariables();
+    auto& mv = common::modVariables();
     host::SessionScope scope(
         env_.factory, {&mv.miAppli, &mv.miScene, &mv.miCatalog, &mv.miSessionId}, lCallParamsBlock);
-    Idiomas idiomas;
+    common::Idiomas idiomas;
     idiomas.aplicacion = vb::CStr(host::use(mv.miAppli).GetLanguage(mv.miSessionId));
     idiomas.catalogo = vb::CStr(host::use(mv.miCatalog).GetInfo(mv.miSessionId, 17));
     idiomas.traducir = idiomas.catalogo != idiomas.aplicacion;
@@ -105,20 +105,20 @@ bool Plugin::OnSceneGenericFinishesAfter(int32_t lCallParamsBlock) {
         if (!esSuperior(vb::CLng(scene.ObjectGetParentId(mv.miSessionId, id)))) continue;
         const Variant number = scene.ObjectGetInfo(mv.miSessionId, id, 2);
         if (!vb::IsNumeric(number)) {
-            rules::explica([&] { return explicaOmitido(id, rules::textoDe(number)); });
+            common::explica([&] { return explicaOmitido(id, common::textoDe(number)); });
             continue;
         }
         const int16_t catalogo = vb::CInt(number);
         const bool nuevo = ultimoCatalogo != catalogo;
-        rules::explica([&] { return explicaCatalogo(id, catalogo, nuevo); });
+        common::explica([&] { return explicaCatalogo(id, catalogo, nuevo); });
         ultimoCatalogo = catalogo;
         int16_t funcion = 4;
         procesaObjetoSesion(*this, {lCallParamsBlock, true}, id, mensaje, funcion, nuevo);
     }
-    rules::explica([&] { return explicaResumen(idiomas, mensaje); });
+    common::explica([&] { return explicaResumen(idiomas, mensaje); });
     if (!mensaje.empty()) {
-        const String text = traduce(idiomas, textoCatalogo(u"TR_9017"));
-        const String title = traduce(idiomas, textoCatalogo(u"TR_9001"));
+        const String text = common::traduce(idiomas, common::textoCatalogo(u"TR_9017"));
+        const String title = common::traduce(idiomas, common::textoCatalogo(u"TR_9001"));
         env_.platform.messageBox(text + u"\r\n" + mensaje, title, platform::MsgIcon::Information);
     }
     scene.ViewRefresh(mv.miSessionId);

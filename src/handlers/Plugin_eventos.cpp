@@ -1,9 +1,9 @@
 // The placement and attribute-dialog checks of the object of the current event.
-#include "handlers/Catalogo.h"
+#include "common/Catalogo.h"
+#include "common/ModVariables.h"
 #include "handlers/Plugin.h"
 #include "handlers/Preparacion.h"
 #include "host/Session.h"
-#include "rules/ModVariables.h"
 #include "vb/Conversions.h"
 #include "vb/Strings.h"
 
@@ -16,7 +16,7 @@ constexpr int32_t kInfoDialogoAtributos = 9;
 constexpr int32_t kBufferDialogo = 11;
 
 String infoEvento(int32_t code) {
-    auto& mv = rules::modVariables();
+    auto& mv = common::modVariables();
     return vb::CStr(host::use(mv.miScene).ObjectGetInfo(mv.miSessionId, kObjetoEvento, code));
 }
 
@@ -27,15 +27,15 @@ String textoDialogo(Env& env, int32_t handle, int32_t controlId) {
 }  // namespace
 
 bool Plugin::OnObjectPlaceAfter(int32_t lCallParamsBlock) {
-    auto& mv = rules::modVariables();
+    auto& mv = common::modVariables();
     host::SessionScope scope(
         env_.factory, {&mv.miAppli, &mv.miScene, &mv.miCatalog, &mv.miSessionId}, lCallParamsBlock);
     if (scope.isOpen()) {
-        mv.dirCatalogos = leeDirCatalogos(env_) + u"\\";
+        mv.dirCatalogos = common::leeDirCatalogos(env_) + u"\\";
         mv.medidaAncho = infoEvento(12);
         mv.medidaFondo = infoEvento(13);
         mv.medidaAlto = infoEvento(14);
-        cargaCatalogoObjeto(env_, kObjetoEvento);
+        common::cargaCatalogoObjeto(env_, kObjetoEvento);
         preparaReglas();
         int32_t id = kObjetoEvento;
         String concatenar;
@@ -48,7 +48,7 @@ bool Plugin::OnObjectPlaceAfter(int32_t lCallParamsBlock) {
 }
 
 bool Plugin::OnObjectAttributsDlgValidation(int32_t lCallParamsBlock) {
-    auto& mv = rules::modVariables();
+    auto& mv = common::modVariables();
     host::SessionScope scope(
         env_.factory, {&mv.miAppli, &mv.miScene, &mv.miCatalog, &mv.miSessionId}, lCallParamsBlock);
     if (scope.isOpen()) {
@@ -57,8 +57,8 @@ bool Plugin::OnObjectAttributsDlgValidation(int32_t lCallParamsBlock) {
         mv.medidaAncho = textoDialogo(env_, handle, 150);
         mv.medidaAlto = textoDialogo(env_, handle, 151);
         mv.medidaFondo = textoDialogo(env_, handle, 152);
-        mv.dirCatalogos = leeDirCatalogos(env_) + u"\\";
-        cargaCatalogoObjeto(env_, kObjetoEvento);
+        mv.dirCatalogos = common::leeDirCatalogos(env_) + u"\\";
+        common::cargaCatalogoObjeto(env_, kObjetoEvento);
         preparaReglas();
         int32_t id = kObjetoEvento;
         String concatenar;

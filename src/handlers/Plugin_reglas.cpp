@@ -16,7 +16,7 @@ Variant Plugin::construyeMensaje(bool& valAncho, bool& valAlto, bool& valFondo,
 
 bool Plugin::procesaDimension(int32_t& dimension, String& x1, String& x2, String& y1, String& y2,
                               String& z1, String& z2, String& ref, String& model, int32_t& idPas) {
-    return rules::procesaDimension(rules::modVariables(), dimension, {x1, x2, y1, y2, z1, z2}, ref,
+    return rules::procesaDimension(common::modVariables(), dimension, {x1, x2, y1, y2, z1, z2}, ref,
                                    model, idPas);
 }
 

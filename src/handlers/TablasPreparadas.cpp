@@ -4,7 +4,8 @@
 
 namespace handlers {
 
-TablasPreparadas recogeTablas(const rules::ModVariables& mv, rules::ExcepcionesLeidas excepciones) {
+TablasPreparadas recogeTablas(const common::ModVariables& mv,
+                              rules::ExcepcionesLeidas excepciones) {
     TablasPreparadas tablas;
     const size_t n = mv.numModelos > 0 ? static_cast<size_t>(mv.numModelos) : 0;
     tablas.modelos.assign(mv.modelos.begin(), mv.modelos.begin() + n);
@@ -13,7 +14,7 @@ TablasPreparadas recogeTablas(const rules::ModVariables& mv, rules::ExcepcionesL
     return tablas;
 }
 
-void aplicaTablas(const TablasPreparadas& tablas, rules::ModVariables& mv) {
+void aplicaTablas(const TablasPreparadas& tablas, common::ModVariables& mv) {
     // GenModEsp: the list only grows, and entries past the count stay as they were.
     if (mv.modelos.size() < tablas.modelos.size()) mv.modelos.resize(tablas.modelos.size());
     std::copy(tablas.modelos.begin(), tablas.modelos.end(), mv.modelos.begin());

@@ -10,7 +10,7 @@
 // past the new count, and exception lists that an empty text keeps), which applying respects.
 #include <vector>
 
-#include "rules/ModVariables.h"
+#include "common/ModVariables.h"
 #include "rules/Modelos.h"
 
 namespace handlers {
@@ -22,9 +22,9 @@ struct TablasPreparadas {
 };
 
 // What the preparation just completed on `mv` left, given what its GenExcepciones did.
-TablasPreparadas recogeTablas(const rules::ModVariables& mv, rules::ExcepcionesLeidas excepciones);
+TablasPreparadas recogeTablas(const common::ModVariables& mv, rules::ExcepcionesLeidas excepciones);
 
 // The same effect on `mv` as running the preparation's table part again.
-void aplicaTablas(const TablasPreparadas& tablas, rules::ModVariables& mv);
+void aplicaTablas(const TablasPreparadas& tablas, common::ModVariables& mv);
 
 }  // namespace handlers

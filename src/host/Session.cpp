@@ -4,16 +4,20 @@
 
 namespace host {
 
+void openSession(Factory& factory, HostSlots slots, int32_t callParamsBlock) {
+    *slots.appli = createAppli(factory);
+    if (slots.scene) *slots.scene = createScene(factory);
+    if (slots.catalog) *slots.catalog = createCatalog(factory);
+    int32_t block = callParamsBlock;
+    *slots.sessionId = vb::CLng(use(*slots.appli).StartSessionFromCallParams(block));
+}
+
 SessionScope::SessionScope(Factory& factory, HostSlots slots, int32_t callParamsBlock)
     : slots_(slots) {
     // A failure here ends the entry point before the destructor could run: release the objects
     // already created, so that none outlives the call.
     try {
-        *slots_.appli = createAppli(factory);
-        if (slots_.scene) *slots_.scene = createScene(factory);
-        if (slots_.catalog) *slots_.catalog = createCatalog(factory);
-        int32_t block = callParamsBlock;
-        *slots_.sessionId = vb::CLng(use(*slots_.appli).StartSessionFromCallParams(block));
+        openSession(factory, slots, callParamsBlock);
     } catch (...) {
         release();
         throw;

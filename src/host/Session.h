@@ -16,6 +16,11 @@ struct HostSlots {
     int32_t* sessionId = nullptr;
 };
 
+// Creates the objects named by `slots` and sets *slots.sessionId from
+// StartSessionFromCallParams(callParamsBlock). An error leaves the objects created before it in
+// their slots, for an entry point that traps it and still ends the session on them.
+void openSession(Factory& factory, HostSlots slots, int32_t callParamsBlock);
+
 class SessionScope {
   public:
     // Creates the objects named by `slots` and sets *slots.sessionId from

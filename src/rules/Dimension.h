@@ -3,9 +3,11 @@
 // door model's permission. Reads only the rule tables of `mv`.
 #include <cstdint>
 
-#include "rules/ModVariables.h"
+#include "common/ModVariables.h"
 
 namespace rules {
+
+using vb::String;
 
 constexpr int32_t kCodigoAncho = 12;
 constexpr int32_t kCodigoFondo = 13;
@@ -16,7 +18,7 @@ struct Medidas {
     String x1, x2, y1, y2, z1, z2;
 };
 
-bool procesaDimension(const ModVariables& mv, int32_t dimension, const Medidas& medidas,
+bool procesaDimension(const common::ModVariables& mv, int32_t dimension, const Medidas& medidas,
                       const String& ref, const String& model, int32_t idPas);
 
 }  // namespace rules

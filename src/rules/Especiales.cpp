@@ -31,17 +31,17 @@ NombreDeCodigo nombreEnTabla8(int32_t& sessionId, host::Catalog& catalog) {
     };
 }
 
-const String& modeloDe(const ModVariables& mv, int m) {
+const String& modeloDe(const common::ModVariables& mv, int m) {
     static const String kSinNombre;
     return m < static_cast<int>(mv.modelos.size()) ? mv.modelos[m] : kSinNombre;
 }
 
-void marcaTodos(ModVariables& mv, int k, bool valor) {
+void marcaTodos(common::ModVariables& mv, int k, bool valor) {
     for (int m = 0; m < mv.numModelos; ++m) mv.permisosModelo[m][k] = valor;
 }
 
 // One permission line per kind, the list looked up anew for every model.
-void llenaTipo(ModVariables& mv, int k, int32_t& sessionId, host::Catalog& catalog,
+void llenaTipo(common::ModVariables& mv, int k, int32_t& sessionId, host::Catalog& catalog,
                const String& code) {
     const auto regla = reglaDe(sessionId, catalog, code);
     if (!regla) return marcaTodos(mv, k, false);
@@ -54,7 +54,7 @@ void llenaTipo(ModVariables& mv, int k, int32_t& sessionId, host::Catalog& catal
 }
 
 // No " ALL" rule, and the permission line looked up again for every model.
-void llenaTipoPorModelo(ModVariables& mv, int k, int32_t& sessionId, host::Catalog& catalog,
+void llenaTipoPorModelo(common::ModVariables& mv, int k, int32_t& sessionId, host::Catalog& catalog,
                         const String& code) {
     const auto nombreDe = nombreEnTabla8(sessionId, catalog);
     for (int m = 0; m < mv.numModelos; ++m) {
@@ -64,10 +64,10 @@ void llenaTipoPorModelo(ModVariables& mv, int k, int32_t& sessionId, host::Catal
 }
 
 // Rows 0..numModelos-1, seven kinds; an empty matrix forbids every kind.
-void dimensionaMatriz(ModVariables& mv) {
+void dimensionaMatriz(common::ModVariables& mv) {
     const size_t rows = mv.numModelos > 0 ? static_cast<size_t>(mv.numModelos) : 0;
     mv.permisosModelo.resize(rows);
-    for (auto& row : mv.permisosModelo) row.resize(kNumTipos, false);
+    for (auto& row : mv.permisosModelo) row.resize(common::kNumTipos, false);
 }
 
 bool enLista(const String& model, std::initializer_list<const char16_t*> names) {
@@ -95,16 +95,16 @@ bool permisoFijo(int k, const String& model) {
 }  // namespace
 
 void InicEsp() {
-    auto& mv = modVariables();
+    auto& mv = common::modVariables();
     mv.codigosMO = {u"MO_EA",  u"MO_EAl",  u"MO_EF",    u"MO_EAAl",
                     u"MO_EAF", u"MO_EAlF", u"MO_EAAlF", String()};
 }
 
 void InicEspMod(int32_t& sessionId, host::Catalog& catalog, bool reglaAll, int kinds) {
-    auto& mv = modVariables();
+    auto& mv = common::modVariables();
     dimensionaMatriz(mv);
     if (mv.numModelos <= 0) return;  // no door model: every kind stays forbidden
-    kinds = std::clamp(kinds, 0, kNumTipos);
+    kinds = std::clamp(kinds, 0, common::kNumTipos);
     for (int k = 0; k < kinds; ++k) {
         const String code = k < static_cast<int>(mv.codigosMO.size()) ? mv.codigosMO[k] : String();
         if (reglaAll) {
@@ -116,9 +116,9 @@ void InicEspMod(int32_t& sessionId, host::Catalog& catalog, bool reglaAll, int k
 }
 
 void InicEspMod2() {
-    auto& mv = modVariables();
+    auto& mv = common::modVariables();
     dimensionaMatriz(mv);
-    const int kinds = std::clamp<int>(mv.numTiposEsp, 0, kNumTipos);
+    const int kinds = std::clamp<int>(mv.numTiposEsp, 0, common::kNumTipos);
     for (int k = 0; k < kinds; ++k) {
         for (int m = 0; m < mv.numModelos; ++m) {
             mv.permisosModelo[m][k] = permisoFijo(k, modeloDe(mv, m));
@@ -126,7 +126,7 @@ void InicEspMod2() {
     }
 }
 
-bool permiso(const ModVariables& mv, int m, int k) {
+bool permiso(const common::ModVariables& mv, int m, int k) {
     if (m < 0 || m >= static_cast<int>(mv.permisosModelo.size())) return false;
     const auto& row = mv.permisosModelo[m];
     return k >= 0 && k < static_cast<int>(row.size()) && row[k];

@@ -3,21 +3,24 @@
 #include <array>
 #include <utility>
 
-#include "rules/Explicacion.h"
+#include "common/Explicacion.h"
 #include "vb/Conversions.h"
 
 namespace rules {
 
+using common::entreComillas;
+using common::mayusculaInicial;
+
 namespace {
 
-constexpr std::array<const char16_t*, kNumTipos> kNombres = {
+constexpr std::array<const char16_t*, common::kNumTipos> kNombres = {
     u"ANCHO", u"ALTO", u"FONDO", u"ANCHO_ALTO", u"ANCHO_FONDO", u"ALTO_FONDO", u"ANCHO_ALTO_FONDO"};
-constexpr std::array<const char16_t*, kNumTipos> kCodigosMO = {
+constexpr std::array<const char16_t*, common::kNumTipos> kCodigosMO = {
     u"MO_EA", u"MO_EAl", u"MO_EF", u"MO_EAAl", u"MO_EAF", u"MO_EAlF", u"MO_EAAlF"};
-constexpr std::array<const char16_t*, kNumTipos> kCodigosEX = {
+constexpr std::array<const char16_t*, common::kNumTipos> kCodigosEX = {
     u"EX_EA", u"EX_EAl", u"EX_EF", u"EX_EAA", u"EX_EAF", u"EX_EAlF", u"EX_EAAF"};
-constexpr std::array<const char16_t*, kNumTipos> kPrefijos = {u"EA_",  u"EAl_",  u"EF_",  u"EAA_",
-                                                              u"EAF_", u"EAlF_", u"EAAF_"};
+constexpr std::array<const char16_t*, common::kNumTipos> kPrefijos = {
+    u"EA_", u"EAl_", u"EF_", u"EAA_", u"EAF_", u"EAlF_", u"EAAF_"};
 
 String numero(int32_t n) {
     return vb::numberText(n);
@@ -50,11 +53,11 @@ String otraDifiere(const Medidas& m, int32_t medida) {
 }
 
 // Where and when the height marker that hayHijoEsp(1) remembers was found.
-String hijoAltoHallado(const ModVariables& mv) {
-    const HijoHallado& h = mv.hijosHallados[1];
+String hijoAltoHallado(const common::ModVariables& mv) {
+    const common::HijoHallado& h = mv.hijosHallados[1];
     String texto = u"a child named with \"EAl_\" has been found";
     if (h.llamada == 0) return texto;
-    const bool estaLlamada = h.llamada == llamadaExplicada();
+    const bool estaLlamada = h.llamada == common::llamadaExplicada();
     const String objeto = h.objeto != -2 ? u"object " + numero(h.objeto)
                           : estaLlamada  ? String(u"this call's cabinet")
                                          : String(u"the cabinet of that call");
@@ -78,7 +81,7 @@ String sinMarca(int marca) {
     return u"no child of the cabinet carries the marker " + entreComillas(kPrefijos[marca]);
 }
 
-String modeloDecide(const ModVariables& mv, const String& model, int fila) {
+String modeloDecide(const common::ModVariables& mv, const String& model, int fila) {
     if (mv.numModelos < 1) return u"the catalogue has no door model, so nothing is permitted";
     const bool hallado = fila < static_cast<int>(mv.modelos.size()) && mv.modelos[fila] == model;
     if (hallado) {

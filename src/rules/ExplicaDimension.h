@@ -3,10 +3,12 @@
 // searched and why, which kind of special and door-model permission decided.
 #include <cstdint>
 
+#include "common/ModVariables.h"
 #include "rules/Dimension.h"
-#include "rules/ModVariables.h"
 
 namespace rules {
+
+using vb::String;
 
 constexpr int kNinguna = -1;      // no exception list is searched
 constexpr int kSiempre = -1;      // the change stays whatever the matrix says
@@ -23,7 +25,7 @@ struct Fila {
 
 // What a decision's reasons are read from: the rule tables and the measures compared.
 struct Porque {
-    const ModVariables& mv;
+    const common::ModVariables& mv;
     const Medidas& medidas;
 };
 

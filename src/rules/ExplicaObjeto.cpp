@@ -1,10 +1,13 @@
 #include "rules/ExplicaObjeto.h"
 
+#include "common/Explicacion.h"
 #include "rules/ExplicaDimension.h"
-#include "rules/Explicacion.h"
 #include "vb/Conversions.h"
 
 namespace rules {
+
+using common::entreComillas;
+using common::mayusculaInicial;
 
 namespace {
 
@@ -52,7 +55,7 @@ int32_t medidaEntera(const String& texto, const String& que) {
     try {
         return vb::CLng(texto);
     } catch (const vb::RuntimeError& e) {
-        explica([&] { return ilegible(que, texto, e); });
+        common::explica([&] { return ilegible(que, texto, e); });
         throw;
     }
 }

@@ -8,6 +8,8 @@
 
 namespace rules {
 
+using vb::String;
+
 String explicaObjeto(const ObjetoActual& actual, const String& articulo, int32_t rank,
                      const MedidasObjeto& medidas, const MedidasObjeto& catalogo);
 String explicaIgualEntero(int32_t dimension, const String& valor, const String& catalogo);

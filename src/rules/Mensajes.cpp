@@ -2,10 +2,10 @@
 
 #include <array>
 
-#include "handlers/Textos.h"
+#include "common/Explicacion.h"
+#include "common/ModVariables.h"
+#include "common/Textos.h"
 #include "host/Factory.h"
-#include "rules/Explicacion.h"
-#include "rules/ModVariables.h"
 #include "vb/Conversions.h"
 
 namespace rules {
@@ -64,15 +64,14 @@ bool esFrenteST(int16_t front) {
 
 String construyeMensaje(platform::Platform& platform, bool valAncho, bool valAlto, bool valFondo,
                         int16_t tipoFuncion) {
-    const auto idiomas = handlers::leeIdiomas();
+    const auto idiomas = common::leeIdiomas();
     const int rechazados = !valAncho + !valAlto + !valFondo;
     if (rechazados == 0 || tipoFuncion < 1 || tipoFuncion > 3) return String();
-    const String main =
-        handlers::textoTraducido(idiomas, rechazados == 1 ? u"TR_9015" : u"TR_9014");
-    const String title = handlers::textoTraducido(idiomas, u"TR_9001");
+    const String main = common::textoTraducido(idiomas, rechazados == 1 ? u"TR_9015" : u"TR_9014");
+    const String title = common::textoTraducido(idiomas, u"TR_9001");
     String message = main;
-    if (tipoFuncion != 2) message += u"\r\n" + handlers::textoTraducido(idiomas, u"TR_9016");
-    explica([&] {
+    if (tipoFuncion != 2) message += u"\r\n" + common::textoTraducido(idiomas, u"TR_9016");
+    common::explica([&] {
         return String(u"Notice ") +
                (rechazados == 1 ? u"TR_9015 (one measure refused)"
                                 : u"TR_9014 (several measures refused)") +
@@ -83,30 +82,30 @@ String construyeMensaje(platform::Platform& platform, bool valAncho, bool valAlt
 }
 
 void programaST2(platform::Platform& platform, const String& nombreModelo) {
-    const auto idiomas = handlers::leeIdiomas();
+    const auto idiomas = common::leeIdiomas();
     if (!esModeloST(nombreModelo)) return;
-    explica([&] {
-        return u"Door model " + entreComillas(nombreModelo) +
+    common::explica([&] {
+        return u"Door model " + common::entreComillas(nombreModelo) +
                u" belongs to the ST programme: notice TR_9021 shown.";
     });
-    const String text = handlers::textoTraducido(idiomas, u"TR_9021");
-    const String caption = handlers::textoTraducido(idiomas, u"TR_9001");
+    const String text = common::textoTraducido(idiomas, u"TR_9021");
+    const String caption = common::textoTraducido(idiomas, u"TR_9001");
     platform.messageBox(text, caption, platform::MsgIcon::Information);
 }
 
 void programaST(platform::Platform& platform, int32_t elId) {
-    auto& mv = modVariables();
+    auto& mv = common::modVariables();
     auto& scene = host::use(mv.miScene);
     const double n = vb::CDbl(scene.ObjectGetInfo(mv.miSessionId, elId, 2));
     if (n != 31 && n != 32 && n != 33) return;
     const int16_t frente = vb::CInt(scene.ObjectGetInfo(mv.miSessionId, elId, 65));
     if (!esFrenteST(frente)) return;
-    explica([&] {
+    common::explica([&] {
         return u"Catalogue number " + vb::numberText(n) + u" with front code " +
                vb::numberText(frente) + u" belongs to the ST programme: notice TR_9021 shown.";
     });
-    const String text = handlers::textoCatalogo(u"TR_9021");
-    const String caption = handlers::textoCatalogo(u"TR_9001");
+    const String text = common::textoCatalogo(u"TR_9021");
+    const String caption = common::textoCatalogo(u"TR_9001");
     platform.messageBox(text, caption, platform::MsgIcon::Information);
 }
 

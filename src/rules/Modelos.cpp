@@ -10,7 +10,7 @@
 namespace rules {
 
 void GenModEsp(int32_t& sessionId, host::Catalog& catalog) {
-    auto& mv = modVariables();
+    auto& mv = common::modVariables();
     const int16_t n = vb::CInt(catalog.TableGetLinesNb(sessionId, 8, 0));
     int16_t count = 0;
     for (int32_t line = 1; line <= n; ++line) {
@@ -40,11 +40,11 @@ std::optional<int> filaDelModelo(const std::vector<String>& modelos, int numMode
 }
 
 ExcepcionesLeidas GenExcepciones(int32_t& sessionId, host::Catalog& catalog) {
-    static const std::array<const char16_t*, kNumTipos> kCodigos = {
+    static const std::array<const char16_t*, common::kNumTipos> kCodigos = {
         u"EX_EA", u"EX_EAl", u"EX_EF", u"EX_EAA", u"EX_EAF", u"EX_EAlF", u"EX_EAAF"};
-    auto& mv = modVariables();
+    auto& mv = common::modVariables();
     ExcepcionesLeidas leidas;
-    for (int k = 0; k < kNumTipos; ++k) {
+    for (int k = 0; k < common::kNumTipos; ++k) {
         const int32_t rank =
             vb::CLng(catalog.TableGetLineRankFromCode(sessionId, 2, 0, 1, kCodigos[k], false));
         const String text = vb::CStr(catalog.TableGetLineInfo(sessionId, 2, 0, rank, 2));
@@ -56,8 +56,8 @@ ExcepcionesLeidas GenExcepciones(int32_t& sessionId, host::Catalog& catalog) {
 }
 
 void aplicaExcepciones(const ExcepcionesLeidas& leidas) {
-    auto& mv = modVariables();
-    for (int k = 0; k < kNumTipos; ++k) {
+    auto& mv = common::modVariables();
+    for (int k = 0; k < common::kNumTipos; ++k) {
         if (leidas[k]) mv.excepciones[k] = leidas[k];
     }
 }

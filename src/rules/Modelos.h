@@ -5,10 +5,12 @@
 #include <optional>
 #include <vector>
 
+#include "common/ModVariables.h"
 #include "host/Host.h"
-#include "rules/ModVariables.h"
 
 namespace rules {
+
+using vb::String;
 
 void GenModEsp(int32_t& sessionId, host::Catalog& catalog);  // modelos, numModelos
 bool modeloValido(const String& refer, const String& code, const String& script);
@@ -20,7 +22,7 @@ std::optional<int> filaDelModelo(const std::vector<String>& modelos, int numMode
                                  const String& modelo, bool ignorarMayusculas);
 // What GenExcepciones did to each kind's list: the list it put in, or nothing where an empty
 // text kept the list as it was.
-using ExcepcionesLeidas = std::array<std::optional<std::vector<String>>, kNumTipos>;
+using ExcepcionesLeidas = std::array<std::optional<std::vector<String>>, common::kNumTipos>;
 
 // excepEA .. excepEAAF, each kind's list set as soon as its line is read.
 ExcepcionesLeidas GenExcepciones(int32_t& sessionId, host::Catalog& catalog);

@@ -1,12 +1,12 @@
 #include "rules/Objeto.h"
 
+#include "common/Explicacion.h"
+#include "common/ModVariables.h"
 #include "host/Factory.h"
 #include "rules/Dimension.h"
 #include "rules/ExplicaDimension.h"
 #include "rules/ExplicaObjeto.h"
-#include "rules/Explicacion.h"
 #include "rules/Mensajes.h"
-#include "rules/ModVariables.h"
 #include "vb/Conversions.h"
 #include "vb/Strings.h"
 
@@ -20,7 +20,7 @@ struct Catalogo3 {
 };
 
 Catalogo3 medidasCatalogo(const String& referencia) {
-    auto& mv = modVariables();
+    auto& mv = common::modVariables();
     auto& catalog = host::use(mv.miCatalog);
     const int32_t rank =
         vb::CLng(catalog.TableGetLineRankFromName(mv.miSessionId, 3, 0, 1, referencia, false));
@@ -33,7 +33,7 @@ Catalogo3 medidasCatalogo(const String& referencia) {
 }
 
 String infoObjeto(int32_t id, int32_t code) {
-    auto& mv = modVariables();
+    auto& mv = common::modVariables();
     return vb::CStr(host::use(mv.miScene).ObjectGetInfo(mv.miSessionId, id, code));
 }
 
@@ -56,16 +56,16 @@ bool decide(const ObjetoActual& actual, int32_t dimension, const String& valor,
     const int32_t delObjeto = entero(dimension, valor, false);
     if (delObjeto == entero(dimension, catalogo, true)) {
         if (valor != catalogo)
-            explica([&] { return explicaIgualEntero(dimension, valor, catalogo); });
+            common::explica([&] { return explicaIgualEntero(dimension, valor, catalogo); });
         return true;
     }
-    explica([&] { return explicaDifiere(dimension, valor, catalogo); });
-    auto& mv = modVariables();
+    common::explica([&] { return explicaDifiere(dimension, valor, catalogo); });
+    auto& mv = common::modVariables();
     if (procesaDimension(mv, dimension, medidas, actual.refObjeto, actual.modeloPuerta, elId)) {
         return true;
     }
     host::use(mv.miScene).ObjectSetInfo(mv.miSessionId, elId, catalogo, dimension);
-    explica([&] { return explicaRestaurada(dimension, catalogo, anadir); });
+    common::explica([&] { return explicaRestaurada(dimension, catalogo, anadir); });
     if (anadir) anade(concatenar, infoObjeto(elId, 8));
     return false;
 }
@@ -80,7 +80,7 @@ bool procesaObjeto(platform::Platform& platform, ObjetoActual& actual, const Med
     const Catalogo3 cat = medidasCatalogo(actual.refObjeto);
     const String articulo = actual.refObjeto;
     actual.refObjeto = infoObjeto(elId, 8);
-    explica([&] {
+    common::explica([&] {
         return explicaObjeto(actual, articulo, cat.rank, medidas, {cat.ancho, cat.alto, cat.fondo});
     });
 
@@ -97,7 +97,7 @@ bool procesaObjeto(platform::Platform& platform, ObjetoActual& actual, const Med
 }
 
 void actualizaDescripciones(int32_t objectId) {
-    auto& mv = modVariables();
+    auto& mv = common::modVariables();
     auto& scene = host::use(mv.miScene);
     const int32_t n = vb::CLng(scene.ObjectGetChildrenNb(mv.miSessionId, objectId, 0));
     for (int32_t i = 1; i <= n; ++i) {

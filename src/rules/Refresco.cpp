@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "common/Explicacion.h"
 #include "host/Factory.h"
-#include "rules/Explicacion.h"
 #include "vb/Conversions.h"
 #include "vb/Strings.h"
 
@@ -12,22 +12,22 @@ namespace rules {
 namespace {
 
 // Marks every kind whose prefix the child's name contains; a later child wins for its kind.
-void marcaHijo(ModVariables& mv, const std::vector<String>& prefijos, int32_t objectId,
+void marcaHijo(common::ModVariables& mv, const std::vector<String>& prefijos, int32_t objectId,
                int32_t child) {
     const String name = vb::CStr(host::use(mv.miScene).ObjectGetInfo(mv.miSessionId, child, 4));
-    const size_t kinds = std::min<size_t>(prefijos.size(), kNumTipos);
+    const size_t kinds = std::min<size_t>(prefijos.size(), common::kNumTipos);
     for (size_t k = 0; k < kinds; ++k) {
         if (vb::InStr(name, prefijos[k], vb::Compare::Text) > 0) {
             mv.idsHijosEsp[k] = child;
             mv.hayHijoEsp[k] = true;
-            mv.hijosHallados[k] = {child, objectId, llamadaExplicada()};
+            mv.hijosHallados[k] = {child, objectId, common::llamadaExplicada()};
         }
     }
 }
 
 void escaneaHijos(const std::vector<String>& prefijos, int32_t objectId, int32_t porDefecto) {
-    auto& mv = modVariables();
-    for (int k = 0; k < kNumTipos; ++k) mv.idsHijosEsp[k] = porDefecto;
+    auto& mv = common::modVariables();
+    for (int k = 0; k < common::kNumTipos; ++k) mv.idsHijosEsp[k] = porDefecto;
     auto& scene = host::use(mv.miScene);
     const int32_t n = vb::CLng(scene.ObjectGetChildrenNb(mv.miSessionId, objectId, 0));
     for (int32_t i = 1; i <= n; ++i) {
@@ -39,7 +39,8 @@ void escaneaHijos(const std::vector<String>& prefijos, int32_t objectId, int32_t
 }  // namespace
 
 void iniciaPrefijosEsp() {
-    modVariables().prefijosEsp = {u"EA_", u"EAl_", u"EF_", u"EAA_", u"EAF_", u"EAlF_", u"EAAF_"};
+    common::modVariables().prefijosEsp = {u"EA_",  u"EAl_",  u"EF_",  u"EAA_",
+                                          u"EAF_", u"EAlF_", u"EAAF_"};
 }
 
 void buscaHijosEsp(const std::vector<String>& prefijos) {
@@ -50,7 +51,7 @@ void buscaHijosEspDe(const std::vector<String>& prefijos, int32_t objectId) {
     escaneaHijos(prefijos, objectId, objectId);
 }
 
-bool estaEnLista(const String& value, const ListaExcepciones& lista) {
+bool estaEnLista(const String& value, const common::ListaExcepciones& lista) {
     // A list needs a highest index of at least 1: a rule text yields an empty first piece.
     if (!lista || lista->size() < 2) return false;
     for (const auto& element : *lista) {

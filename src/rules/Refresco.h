@@ -4,13 +4,15 @@
 #include <cstdint>
 #include <vector>
 
-#include "rules/ModVariables.h"
+#include "common/ModVariables.h"
 
 namespace rules {
+
+using vb::String;
 
 void iniciaPrefijosEsp();
 void buscaHijosEsp(const std::vector<String>& prefijos);  // object -2
 void buscaHijosEspDe(const std::vector<String>& prefijos, int32_t objectId);
-bool estaEnLista(const String& value, const ListaExcepciones& lista);
+bool estaEnLista(const String& value, const common::ListaExcepciones& lista);
 
 }  // namespace rules

@@ -23,7 +23,7 @@ const std::vector<FilaTabla> kPermisoFondo = {
 const std::vector<FilaTabla> kPermisoAlto = {
     {A, 3, true, 3}, {F, 5, true, 3}, {0, 1, false, kSiempre}, {0, 1, true, 1}};
 
-const std::array<std::vector<int32_t>, kNumTipos> kMedidasDelTipo = {
+const std::array<std::vector<int32_t>, common::kNumTipos> kMedidasDelTipo = {
     {{A}, {Al}, {F}, {A, Al}, {A, F}, {Al, F}, {A, Al, F}}};
 
 Fila decide(const std::vector<FilaTabla>& tabla, const Situacion& s) {

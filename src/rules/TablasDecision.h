@@ -7,8 +7,8 @@
 #include <cstdint>
 #include <vector>
 
+#include "common/ModVariables.h"
 #include "rules/ExplicaDimension.h"
-#include "rules/ModVariables.h"
 
 namespace rules {
 
@@ -17,7 +17,7 @@ namespace rules {
 // with "EAl_" was ever found (hayHijoEsp(1)).
 struct Situacion {
     bool anchoDifiere = false, fondoDifiere = false, altoDifiere = false;
-    std::array<bool, kNumTipos> marca{};
+    std::array<bool, common::kNumTipos> marca{};
     bool hayHijoAlto = false;
 
     bool difiere(int32_t medida) const;  // information 12, 13 or 14

@@ -2,8 +2,8 @@
 
 #include <optional>
 
-#include "rules/Explicacion.h"
-#include "rules/ModVariables.h"
+#include "common/Explicacion.h"
+#include "common/ModVariables.h"
 #include "sim/DialogWiring.h"
 #include "vb/Conversions.h"
 #include "vb/Errors.h"
@@ -34,7 +34,7 @@ Player::Player(Simulation& simulation, platform::Platform& platform, host::ReadM
       plugin_(env_),
       wizard_(env_) {
     // A scenario is a fresh host process: no shared context is left from another one.
-    rules::modVariables() = rules::ModVariables{};
+    common::modVariables() = common::ModVariables{};
 }
 
 MethodOutcome Player::dispatch(const CallSpec& call, int32_t block) {
@@ -56,7 +56,7 @@ void Player::play(const CallSpec& call) {
     try {
         view = makeDialogView(call.ui, recorder);
         env_.dialogView = view.get();
-        std::optional<rules::ExplicacionActiva> explicacion;
+        std::optional<common::ExplicacionActiva> explicacion;
         if (recorder.explaining()) explicacion.emplace(&recorder);
         outcome = dispatch(call, block);
     } catch (const vb::RuntimeError& e) {

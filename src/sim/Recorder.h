@@ -8,15 +8,15 @@
 #include <string>
 #include <vector>
 
+#include "common/Explicacion.h"
 #include "dialog/UserAction.h"
-#include "rules/Explicacion.h"
 #include "sim/Json.h"
 
 namespace sim {
 
 enum class BoxIcon { Information, Critical, None };
 
-class Recorder : public dialog::DialogObserver, public rules::Explicacion {
+class Recorder : public dialog::DialogObserver, public common::Explicacion {
   public:
     // With explanations on, every call of the transcript gets its `explain` list.
     void explainCalls(bool on) { explain_ = on; }
@@ -47,7 +47,7 @@ class Recorder : public dialog::DialogObserver, public rules::Explicacion {
     void snapshot(const dialog::Snapshot& snapshot) override;
     void dialogClosed(const std::string& how) override;
 
-    // rules::Explicacion: one decision of the call in progress.
+    // common::Explicacion: one decision of the call in progress.
     void decision(const vb::String& texto) override;
 
     // {"calls": [...], "objects": ..., "files": [...]}.

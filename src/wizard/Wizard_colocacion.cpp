@@ -2,9 +2,9 @@
 // Wizard's own host objects and session.
 #include <optional>
 
+#include "common/Explicacion.h"
 #include "host/Session.h"
 #include "rules/ExplicaObjeto.h"
-#include "rules/Explicacion.h"
 #include "vb/Conversions.h"
 #include "vb/Strings.h"
 #include "wizard/Fabricantes.h"
@@ -50,7 +50,7 @@ bool Wizard::OnObjectPlaceAfter(int32_t lCallParamsBlock) {
     if (scope.isOpen()) {
         const auto numero =
             numeroCatalogo(vb::CStr(host::use(wScene).ObjectGetInfo(wSessionId, kObjetoEvento, 2)));
-        rules::explica([&] { return explicaNumero(numero); });
+        common::explica([&] { return explicaNumero(numero); });
         // The cases' own results are not used: a case that ran makes the result true.
         if (numero == 31) casoForma(lCallParamsBlock);
         if (numero == 32) casoXey(lCallParamsBlock);
@@ -91,8 +91,8 @@ void Wizard::aplicaCaso(const Fabricante& f, String& ruta) {
     const int32_t rank =
         vb::CLng(catalog.TableGetLineRankFromName(wSessionId, 3, 0, 1, refObjeto, false));
     if (rank < 1) {  // no article line: no catalogue measures to hold the cabinet to
-        rules::explica([&] {
-            return u"Article " + rules::entreComillas(refObjeto) +
+        common::explica([&] {
+            return u"Article " + common::entreComillas(refObjeto) +
                    u" has no line in table 3: the case changes nothing.";
         });
         return;
@@ -105,23 +105,23 @@ void Wizard::aplicaCaso(const Fabricante& f, String& ruta) {
     m.fondo = info(13);
     m.alto = info(14);
     if (enLista(codigo, f.codigos)) {
-        rules::explica([&] {
-            return u"Article code " + rules::entreComillas(codigo) +
+        common::explica([&] {
+            return u"Article code " + common::entreComillas(codigo) +
                    u" is exempt from every rule of this manufacturer.";
         });
         return;
     }
     if (!enLista(modeloPuerta, f.modelos)) {
-        rules::explica([&] {
-            return u"Door model " + rules::entreComillas(modeloPuerta) +
+        common::explica([&] {
+            return u"Door model " + common::entreComillas(modeloPuerta) +
                    u" is not on the manufacturer's list: only the depth may be special.";
         });
         reglaSoloFondo(f, m);
     } else if (f.reglaAncho) {
         reglaAncho(f, m);
     } else {
-        rules::explica([&] {
-            return u"Door model " + rules::entreComillas(modeloPuerta) +
+        common::explica([&] {
+            return u"Door model " + common::entreComillas(modeloPuerta) +
                    u" is on the manufacturer's list: no rule of this manufacturer applies.";
         });
     }
@@ -129,16 +129,16 @@ void Wizard::aplicaCaso(const Fabricante& f, String& ruta) {
 
 void Wizard::reglaSoloFondo(const Fabricante& f, const Medidas& m) {
     if (m.catAncho == m.ancho && m.catAlto == m.alto) {
-        rules::explica(
+        common::explica(
             [] { return String(u"Width and height are the catalogue's: nothing to do."); });
         return;
     }
-    rules::explica([&] {
-        return u"Width " + rules::entreComillas(m.ancho) + u" and height " +
-               rules::entreComillas(m.alto) + u" go back to the catalogue's " +
-               rules::entreComillas(m.catAncho) + u" and " + rules::entreComillas(m.catAlto) +
+    common::explica([&] {
+        return u"Width " + common::entreComillas(m.ancho) + u" and height " +
+               common::entreComillas(m.alto) + u" go back to the catalogue's " +
+               common::entreComillas(m.catAncho) + u" and " + common::entreComillas(m.catAlto) +
                u"; the cabinet is replaced from " + f.reemplazo + u" keeping its depth " +
-               rules::entreComillas(m.fondo) + u".";
+               common::entreComillas(m.fondo) + u".";
     });
     auto& scene = host::use(wScene);
     scene.ObjectSetInfo(wSessionId, kObjetoEvento, m.catAncho, 12);
@@ -153,18 +153,18 @@ void Wizard::reglaSoloFondo(const Fabricante& f, const Medidas& m) {
 
 void Wizard::reglaAncho(const Fabricante& f, const Medidas& m) {
     if (enLista(modeloPuerta, f.sinReglaAncho) || m.catAncho == m.ancho) {
-        rules::explica([&] {
+        common::explica([&] {
             return enLista(modeloPuerta, f.sinReglaAncho)
-                       ? u"Door model " + rules::entreComillas(modeloPuerta) +
+                       ? u"Door model " + common::entreComillas(modeloPuerta) +
                              u" may have any width."
                        : u"The width is the catalogue's: nothing to do.";
         });
         return;
     }
-    rules::explica([&] {
-        return u"Door model " + rules::entreComillas(modeloPuerta) +
-               u" keeps the catalogue's width " + rules::entreComillas(m.catAncho) +
-               u" instead of " + rules::entreComillas(m.ancho) + u".";
+    common::explica([&] {
+        return u"Door model " + common::entreComillas(modeloPuerta) +
+               u" keeps the catalogue's width " + common::entreComillas(m.catAncho) +
+               u" instead of " + common::entreComillas(m.ancho) + u".";
     });
     muestra(kMensajeAncho);
     host::use(wScene).ObjectSetInfo(wSessionId, kObjetoEvento, m.catAncho, 12);

@@ -1,8 +1,9 @@
-// The components handlers of `Wizard`: the special-editing dialog for catalogues 31 to 33.
+// The components handlers of `Wizard`: the special-editing dialog for catalogues 31 to 33, in
+// the components session with its error trap (no view refresh).
+#include "common/Catalogo.h"
+#include "common/ModVariables.h"
 #include "dialog/Apertura.h"
-#include "handlers/Catalogo.h"
 #include "host/Factory.h"
-#include "rules/ModVariables.h"
 #include "vb/Conversions.h"
 #include "wizard/Wizard.h"
 
@@ -19,9 +20,9 @@ bool esCatalogoPropio(const vb::Variant& numero) {
 
 // The work of an open session; true when the object is not of the three catalogues.
 bool abreDialogo(Wizard& w, env::Env& env) {
-    auto& mv = rules::modVariables();
+    auto& mv = common::modVariables();
     auto& scene = host::use(mv.miScene);
-    mv.dirCatalogos = handlers::leeDirCatalogosTexto(env);
+    mv.dirCatalogos = common::leeDirCatalogosTexto(env);
     mv.medidaAncho = vb::CStr(scene.ObjectGetInfo(mv.miSessionId, -2, 12));
     mv.medidaFondo = vb::CStr(scene.ObjectGetInfo(mv.miSessionId, -2, 13));
     mv.medidaAlto = vb::CStr(scene.ObjectGetInfo(mv.miSessionId, -2, 14));
@@ -43,23 +44,8 @@ bool abreDialogo(Wizard& w, env::Env& env) {
 }  // namespace
 
 bool Wizard::OnObjectComponentsBefore(int32_t lCallParamsBlock) {
-    auto& mv = rules::modVariables();
-    dialog::LiberaObjetos libera;
-    bool resultado = false;
-    try {
-        mv.numTiposEsp = 7;
-        mv.miAppli = host::createAppli(env_.factory);
-        mv.miScene = host::createScene(env_.factory);
-        mv.miCatalog = host::createCatalog(env_.factory);
-        int32_t bloque = lCallParamsBlock;
-        mv.miSessionId = vb::CLng(host::use(mv.miAppli).StartSessionFromCallParams(bloque));
-        if (mv.miSessionId != 0) resultado = abreDialogo(*this, env_);
-    } catch (const vb::RuntimeError& error) {
-        dialog::avisaErrorComponentes(env_.platform, error);
-        resultado = true;
-    }
-    if (mv.miAppli) host::use(mv.miAppli).EndSession(mv.miSessionId);
-    return resultado;
+    return dialog::sesionComponentes(env_, lCallParamsBlock, false,
+                                     [&] { return abreDialogo(*this, env_); });
 }
 
 bool Wizard::ObjectWizard(int32_t lCallParamsBlock) {

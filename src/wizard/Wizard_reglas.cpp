@@ -1,6 +1,6 @@
 // The set-up methods of `_Wizard`: as Plugin's, except that InicEsp also forgets the marker
 // children and InicEspMod has no " ALL" rule.
-#include "handlers/Entrada.h"
+#include "common/Entrada.h"
 #include "host/Factory.h"
 #include "rules/Especiales.h"
 #include "rules/Modelos.h"
@@ -9,16 +9,16 @@
 namespace wizard {
 
 bool Wizard::OnObjectComponents(int32_t lCallParamsBlock) {
-    return handlers::componentesB(env_, lCallParamsBlock);
+    return common::componentesB(env_, lCallParamsBlock);
 }
 
 void Wizard::InicEsp() {
     rules::InicEsp();
-    rules::modVariables().hayHijoEsp.fill(false);
+    common::modVariables().hayHijoEsp.fill(false);
 }
 
 void Wizard::InicEspMod(int32_t& miSessionId, host::CatalogRef& miCatalog) {
-    rules::InicEspMod(miSessionId, host::use(miCatalog), false, rules::kNumTipos);
+    rules::InicEspMod(miSessionId, host::use(miCatalog), false, common::kNumTipos);
 }
 
 void Wizard::InicEspMod2() {

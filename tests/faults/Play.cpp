@@ -1,7 +1,7 @@
 #include "Play.h"
 
+#include "common/ModVariables.h"
 #include "native/SimPlatform.h"
-#include "rules/ModVariables.h"
 #include "sim/Player.h"
 
 namespace faults {
@@ -11,7 +11,7 @@ namespace {
 // What must not survive a call: the shared host objects and any Pelmora object at all.
 void checkReleased(const sim::HostState& state, const std::string& when,
                    std::vector<std::string>& problems) {
-    const auto& mv = rules::modVariables();
+    const auto& mv = common::modVariables();
     if (mv.miAppli || mv.miScene || mv.miCatalog)
         problems.push_back(when + ": the shared context still holds host objects");
     if (state.liveHostObjects != 0)

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "rules/Explicacion.h"
+#include "common/Explicacion.h"
 
 namespace quorbel {
 
@@ -16,7 +16,7 @@ namespace quorbel {
 const std::wstring& traceFilePath();
 
 // Listens to one call's decisions while it lives, when a trace file is set.
-class CallTrace : public rules::Explicacion {
+class CallTrace : public common::Explicacion {
   public:
     CallTrace(const char* className, const std::source_location& where) noexcept;
     ~CallTrace() override;
@@ -30,7 +30,7 @@ class CallTrace : public rules::Explicacion {
   private:
     std::string header_;
     std::vector<vb::String> lines_;
-    rules::ExplicacionActiva listening_;
+    common::ExplicacionActiva listening_;
 };
 
 // "Plugin.OnObjectPlaceAfter" from a COM method's source location.

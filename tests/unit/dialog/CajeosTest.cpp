@@ -1,8 +1,8 @@
-// The cut-out document: its exact text, reading it back into the rows, and the annotation
-// blocks of the recess components.
+// Reading a stored cut-out document back into the recess rows, and the diagonal's description
+// written into its component and read back.
 #include <gtest/gtest.h>
 
-#include "FakeDialogo.h"
+#include "Banco.h"
 
 namespace {
 
@@ -21,27 +21,12 @@ void preparaFilas(dialog::frmEspEnc& f) {
     f.TxtValoresEnc[5].Tag = u"720";
 }
 
-TEST(CadenaCajeos, WritesTheDocumentExactly) {
-    fakedlg::Banco banco;
-    auto& f = banco.f();
-    preparaFilas(f);
-    EXPECT_EQ(f.CadenaCajeos(),
-              u"<CAJEOS>\r\n\t<CAJEO>\r\n\t\t<TITULO>Pilar A</TITULO>"
-              u"\r\n\t\t<PARAM>\r\n\t\t\t<ETIQ>Fondo & <x></ETIQ>\r\n\t\t\t<VALOR>10</VALOR>"
-              u"\r\n\t\t\t<VALORMAX>550</VALORMAX>\r\n\t\t\t<INDICE>2</INDICE>\r\n\t\t</PARAM>"
-              u"\r\n\t\t<PARAM>\r\n\t\t\t<ETIQ>Alto</ETIQ>\r\n\t\t\t<VALOR></VALOR>"
-              u"\r\n\t\t\t<VALORMAX>720</VALORMAX>\r\n\t\t\t<INDICE>5</INDICE>\r\n\t\t</PARAM>"
-              u"\r\n\t</CAJEO>\r\n</CAJEOS>");
-    f.listComponentes[4].entries[0].selected = false;
-    EXPECT_EQ(f.CadenaCajeos(), u"");
-}
-
 TEST(CargaValoresCajeos, RestoresByIndexAndSkipsWhatCannotBeRead) {
-    fakedlg::Banco banco;
+    banco::Banco banco;
     auto& f = banco.f();
     preparaFilas(f);
-    auto& mv = rules::modVariables();
-    mv.docCajeos = banco.plataforma.createXmlDocument();
+    auto& mv = common::modVariables();
+    mv.docCajeos = banco.platform.createXmlDocument();
     mv.docCajeos->loadXML(
         u"<CAJEOS><CAJEO><TITULO>Pilar A</TITULO>"
         u"<PARAM><valor>30</valor><INDICE>5</INDICE></PARAM>"  // names ignore case
@@ -58,28 +43,12 @@ TEST(CargaValoresCajeos, RestoresByIndexAndSkipsWhatCannotBeRead) {
     EXPECT_EQ(f.TxtValoresEnc[0].Text, u"7");
 }
 
-TEST(AnotaCajeos, ReplacesTheBlockInsteadOfAddingOne) {
-    fakedlg::Banco banco;
-    auto& f = banco.f();
-    preparaFilas(f);
-    banco.mundo.textos[u"TR_0008"] = u"Encastres de pilar";
-    banco.mundo.objetos[40].info[49] = u"Pilar de obra";
-    f.EtiqValorEnc[2].Caption = u"Fondo";  // an unescaped "&" would not load
-    auto& mv = rules::modVariables();
-    mv.docCajeos = banco.plataforma.createXmlDocument();
-    mv.docCajeos->loadXML(f.CadenaCajeos());
-    f.anotaCajeos();
-    f.anotaCajeos();
-    EXPECT_EQ(banco.mundo.objetos[40].info[49],
-              u"Pilar de obra\r\n-----------------------\r\nFondo 10\r\nAlto");
-}
-
 TEST(DescribeDiagonal, KeepsTheFirstLineAndOneBlock) {
-    fakedlg::Banco banco;
+    banco::Banco banco;
     auto& f = banco.f();
     f.textoEncastre1 = u"Por longitudes";
     f.textoEncastre2 = u"Por \u00E1ngulo";
-    auto& d = banco.mundo.objetos[60].info;
+    auto& d = banco.objeto(60).info;
     d[59] = u"1";
     d[49] = u"Corte\r\nPor \u00E1ngulo.-\r\n\u00C1ngulo: 30";
     f.describeDiagonal(u"Por longitudes", u"120", 60, u"80", u"144");
@@ -92,13 +61,13 @@ TEST(DescribeDiagonal, KeepsTheFirstLineAndOneBlock) {
 }
 
 TEST(CargaDiagonal, ReadsBackWhatDescribeDiagonalWrote) {
-    fakedlg::Banco banco;
+    banco::Banco banco;
     auto& f = banco.f();
     f.textoEncastre1 = u"Por longitudes";
     f.textoEncastre2 = u"Por \u00E1ngulo";
     f.idDiagonal = 60;
-    banco.mundo.objetos[60].info[59] = u"1";
-    banco.mundo.objetos[60].info[49] = u"Corte\r\nPor longitudes.-\r\nL1: 120 - L2: 80 - L3: 144";
+    banco.objeto(60).info[59] = u"1";
+    banco.objeto(60).info[49] = u"Corte\r\nPor longitudes.-\r\nL1: 120 - L2: 80 - L3: 144";
     f.cargaDiagonal();
     EXPECT_EQ(f.TextValores[0].Text, u"120");
     EXPECT_EQ(f.TextValores[1].Text, u"80");

@@ -1,7 +1,8 @@
-// What the views share: control lookup by name, text box editing, and the trap's messages.
+// What the views share: control lookup by name and text box editing; and a build without a
+// dialog view.
 #include <gtest/gtest.h>
 
-#include "FakeDialogo.h"
+#include "Banco.h"
 #include "dialog/Apertura.h"
 #include "dialog/Eventos.h"
 #include "vb/Errors.h"
@@ -36,7 +37,7 @@ TEST(AplicaTecla, ReplacesTheSelectionOrEditsAtTheCaret) {
 }
 
 TEST(ControlDe, UnknownNamesAndIndicesAreRuntimeErrors) {
-    fakedlg::Banco banco;
+    banco::Banco banco;
     auto& f = banco.f();
     EXPECT_EQ(&dialog::controlDe(f, u"PictureEsp", 6), &f.PictureEsp[6]);
     EXPECT_EQ(&dialog::cajaDe(f, u"TxtValoresEnc", 0), &f.TxtValoresEnc[0]);
@@ -57,7 +58,7 @@ TEST(ControlDe, UnknownNamesAndIndicesAreRuntimeErrors) {
 }
 
 TEST(Alcanzable, DisabledHiddenOrInsideADisabledPanel) {
-    fakedlg::Banco banco;
+    banco::Banco banco;
     auto& f = banco.f();
     EXPECT_TRUE(dialog::alcanzable(f, u"TextMedEsp", 0));
     f.PanelMedEsp.Enabled = false;
@@ -66,18 +67,8 @@ TEST(Alcanzable, DisabledHiddenOrInsideADisabledPanel) {
     EXPECT_FALSE(dialog::alcanzable(f, u"TextValores", 0));  // disabled at design
 }
 
-TEST(AvisaErrorComponentes, TypeMismatchIsInformationOthersCritical) {
-    fakedlg::Banco banco;
-    dialog::avisaErrorComponentes(banco.plataforma, vb::RuntimeError(13, u"Type mismatch"));
-    dialog::avisaErrorComponentes(banco.plataforma, vb::RuntimeError(91, u"Object not set"));
-    ASSERT_EQ(banco.mundo.mensajes.size(), 2u);
-    EXPECT_EQ(banco.mundo.mensajes[0].first, u"Error 13: Type mismatch");
-    EXPECT_EQ(banco.mundo.mensajes[1].first, u"Error no controlado num. 91. Object not set.");
-    EXPECT_EQ(banco.mundo.mensajes[1].second, u"\u00A1\u00A1Atenci\u00F3n!!");
-}
-
 TEST(MuestraDialogo, ABuildWithoutADialogRaises) {
-    fakedlg::Banco banco;
+    banco::Banco banco;
     EXPECT_THROW(dialog::muestraDialogo(banco.env), vb::RuntimeError);
 }
 

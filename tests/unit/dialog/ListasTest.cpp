@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "FakeDialogo.h"
+#include "Banco.h"
 #include "vb/Strings.h"
 
 namespace {
@@ -12,12 +12,12 @@ namespace {
 using dialog::ListEntry;
 
 // List 0 with entries: P1, ==>C1 (info 59 "1"), ==>C2 (info 59 "0"), P2.
-void llenaLista(fakedlg::Banco& banco, bool p1, bool c1, bool c2, bool p2) {
+void llenaLista(banco::Banco& banco, bool p1, bool c1, bool c2, bool p2) {
     auto& f = banco.f();
     f.listComponentes[0].entries = {{u"P1", p1}, {u"==>C1", c1}, {u"  ==>C2", c2}, {u"P2", p2}};
     f.idsListas[0] = {10, 11, 12, 13, 0};
-    banco.mundo.objetos[11].info[59] = u"1";
-    banco.mundo.objetos[12].info[59] = u"0";
+    banco.objeto(11).info[59] = u"1";
+    banco.objeto(12).info[59] = u"0";
     f.fijaEstadoInicial();
 }
 
@@ -51,7 +51,7 @@ TEST(ListComponentes, ParentAndChildRules) {
         {"0010", 0, "1110", "1010000"},  // a selected child stays
     };
     for (const auto& c : cases) {
-        fakedlg::Banco banco;
+        banco::Banco banco;
         llenaLista(banco, c.inicial[0] == '1', c.inicial[1] == '1', c.inicial[2] == '1',
                    c.inicial[3] == '1');
         pulsa(banco.f(), 0, c.clic);
@@ -62,7 +62,7 @@ TEST(ListComponentes, ParentAndChildRules) {
 }
 
 TEST(ListComponentes, EmptyListAndDoubleClickLeaveTheStateAsItWas) {
-    fakedlg::Banco banco;
+    banco::Banco banco;
     llenaLista(banco, false, false, false, false);
     auto& f = banco.f();
     f.listComponentes[1].ListIndex = 0;
@@ -74,7 +74,7 @@ TEST(ListComponentes, EmptyListAndDoubleClickLeaveTheStateAsItWas) {
 }
 
 TEST(EstadoCambios, CountsEntriesOfEarlierListsAndTheThreeMeasures) {
-    fakedlg::Banco banco;
+    banco::Banco banco;
     auto& f = banco.f();
     f.listComponentes[0].entries = {{u"A", true}};
     f.listComponentes[2].entries = {{u"B", false}, {u"C", true}};
@@ -97,16 +97,15 @@ TEST(EstadoCambios, CountsEntriesOfEarlierListsAndTheThreeMeasures) {
 }
 
 TEST(GuardaSeleccion, WritesOnlyWhatDiffers) {
-    fakedlg::Banco banco;
+    banco::Banco banco;
     auto& f = banco.f();
     f.listComponentes[0].entries = {{u"A", true}, {u"B", false}, {u"C", true}};
     f.idsListas[0] = {1, 2, 3, 0};
-    banco.mundo.objetos[1].info[59] = u"1";
-    banco.mundo.objetos[2].info[59] = u"1";
-    banco.mundo.objetos[3].info[59] = u"";
+    banco.objeto(1).info[59] = u"1";
+    banco.objeto(2).info[59] = u"1";
+    banco.objeto(3).info[59] = u"";
     f.guardaSeleccion();
-    using W = std::tuple<int32_t, int32_t, vb::String>;
-    EXPECT_EQ(banco.mundo.escrituras, (std::vector<W>{{2, 59, u"0"}, {3, 59, u"1"}}));
+    EXPECT_EQ(banco.writes(), (std::vector<std::string>{"2.59=0", "3.59=1"}));
 }
 
 }  // namespace

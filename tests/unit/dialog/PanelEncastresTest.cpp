@@ -2,7 +2,7 @@
 // as leave room for every title.
 #include <gtest/gtest.h>
 
-#include "FakeDialogo.h"
+#include "Banco.h"
 #include "dialog/PanelEncastres.h"
 #include "vb/Conversions.h"
 
@@ -46,14 +46,12 @@ TEST(EncastresConValores, KeepsValuesWhileEveryTitleStillFits) {
 // 140 recesses without data: 128 titles fit, the rest stay in the list only, and the one
 // message says so.
 TEST(PanelEncastres, TitlesThatDoNotFitStayInTheListAndTheMessageSaysSo) {
-    fakedlg::Banco banco;
-    auto& m = banco.mundo.objetos;
-    for (int32_t flag : {15, 16, 17}) m[-2].info[flag] = u"1";
-    for (int32_t id = 1; id <= 140; ++id) {
-        m[-2].hijos.push_back(id);
-        auto& o = m[id];
-        o.info = {{4, u"P_CJ"}, {5, u"R" + vb::numberText(id - 1)}, {58, u"1"}};
-        for (int32_t flag : {15, 16, 17}) o.info[flag] = u"0";
+    banco::Banco banco;
+    for (int32_t flag : {15, 16, 17}) banco.objeto(100).info[flag] = u"1";
+    for (int32_t n = 0; n < 140; ++n) {
+        auto& recess = banco.objeto(1000 + n);  // any ids but the cabinet's
+        recess.info = {{4, u"P_CJ"}, {5, u"R" + vb::numberText(n)}, {58, u"1"}};
+        for (int32_t flag : {15, 16, 17}) recess.info[flag] = u"0";
     }
     auto& f = banco.f();
     f.Form_Load();
@@ -64,10 +62,10 @@ TEST(PanelEncastres, TitlesThatDoNotFitStayInTheListAndTheMessageSaysSo) {
     EXPECT_FALSE(f.EtiqTituloEnc[128].Visible);
     EXPECT_EQ(f.altoContenido, 360 + 127 * 255);
     EXPECT_EQ(f.picin.Height, f.altoContenido);
-    ASSERT_EQ(banco.mundo.mensajes.size(), 1u);
-    EXPECT_EQ(banco.mundo.mensajes[0].first,
-              u"Hay demasiados encastres de pilar: se muestran sin sus valores, que no caben en "
-              u"el panel, y a partir de \u00ABR128\u00BB solo en la lista.");
+    EXPECT_EQ(banco.mensajes(),
+              (std::vector<std::string>{
+                  "Hay demasiados encastres de pilar: se muestran sin sus valores, que no caben "
+                  "en el panel, y a partir de \u00ABR128\u00BB solo en la lista."}));
 }
 
 }  // namespace

@@ -1,11 +1,12 @@
-// The special types: the click table with its combined types, and "Medidas por defecto".
+// The special types: the click table with its combined types, the initial selection, and the
+// types hidden by the object's fixed dimensions.
 #include <gtest/gtest.h>
 
 #include <set>
 #include <string>
 #include <vector>
 
-#include "FakeDialogo.h"
+#include "Banco.h"
 #include "vb/Errors.h"
 
 namespace {
@@ -51,8 +52,8 @@ TEST(ClickTipos, FollowsTheCombinedTypeRules) {
         {"", {0}, "0", "0"},
     };
     for (const auto& c : cases) {
-        fakedlg::Banco banco;
-        auto& mv = rules::modVariables();
+        banco::Banco banco;
+        auto& mv = common::modVariables();
         for (char d : c.markers) mv.idsHijosEsp[d - '0'] = 100 + (d - '0');
         for (int m = 0; m < 3; ++m) banco.f().TextMedEsp[m].Enabled = false;
         for (int k : c.clicks) banco.f().PictureEsp_Click(k);
@@ -70,25 +71,6 @@ TEST(ClickTipos, FollowsTheCombinedTypeRules) {
             EXPECT_EQ(banco.f().EtiqCuadEsp[6].ForeColor, dialog::kRojo);
         }
     }
-}
-
-TEST(MedidasPorDefecto, PutsTheCatalogueMeasuresBackAndClearsEverySelection) {
-    fakedlg::Banco banco;
-    auto& f = banco.f();
-    rules::modVariables().idsHijosEsp.fill(7);
-    f.medidasDefecto = {u"600", u"720", u"560", u""};
-    f.PictureEsp_Click(0);
-    f.PictureEsp_Click(5);
-    f.TextMedEsp[0].Text = u"650";
-    f.estadoCambios = u"0101";
-    f.BotonCnlMed_Click();
-    EXPECT_EQ(seleccionados(f), "");
-    EXPECT_EQ(cajas(f), "");
-    EXPECT_EQ(f.TextMedEsp[0].Text, u"600");
-    EXPECT_EQ(f.TextMedEsp[1].Text, u"720");
-    EXPECT_EQ(f.TextMedEsp[2].Text, u"560");
-    EXPECT_EQ(f.estadoCambios, u"0101");
-    for (int k = 0; k < 7; ++k) EXPECT_EQ(f.EtiqCuadEsp[k].ForeColor, dialog::kAzulMarino);
 }
 
 struct InicialCase {
@@ -114,9 +96,9 @@ TEST(SeleccionInicial, PicksTheTypesOfTheChangedMeasures) {
         {"0123456", {false, false, false}, ""},
     };
     for (const auto& c : cases) {
-        fakedlg::Banco banco;
+        banco::Banco banco;
         auto& f = banco.f();
-        for (char d : c.markers) rules::modVariables().idsHijosEsp[d - '0'] = 50;
+        for (char d : c.markers) common::modVariables().idsHijosEsp[d - '0'] = 50;
         f.medidasDefecto = {u"600", u"720", u"560", u""};
         f.medidasActuales = {c.distinto[0] ? u"650" : u"600", c.distinto[1] ? u"700" : u"720",
                              c.distinto[2] ? u"500" : u"560", u""};
@@ -138,12 +120,12 @@ TEST(OcultaTiposFijos, HidesByTheObjectsFlagsAndRefusesOtherTexts) {
         {u"0", u"0", u"0", ""},        {u"1", u"", u"1", "!"},        {u"1", u"1", u"S\u00ED", "!"},
     };
     for (const auto& c : cases) {
-        fakedlg::Banco banco;
+        banco::Banco banco;
         auto& f = banco.f();
-        auto& info = banco.mundo.objetos[-2].info;
+        auto& info = banco.objeto(100).info;
         info[15] = c.b15, info[16] = c.b16, info[17] = c.b17;
-        rules::modVariables().numTiposEsp = 7;
-        rules::modVariables().idsHijosEsp.fill(50);
+        common::modVariables().numTiposEsp = 7;
+        common::modVariables().idsHijosEsp.fill(50);
         SCOPED_TRACE(c.visible);
         try {
             f.ocultaTiposFijos();

@@ -3,76 +3,61 @@
 // the literal run, leftovers of earlier catalogues included, and no member is asked more often.
 #include <gtest/gtest.h>
 
-#include <map>
+#include <set>
 
-#include "../rules/FakeHost.h"
-#include "handlers/Catalogo.h"
+#include "../OpenCall.h"
+#include "common/Catalogo.h"
 #include "handlers/Preparacion.h"
-#include "host/CachingFactory.h"
-#include "rules/ModVariables.h"
-#include "vb/Conversions.h"
+#include "vb/Errors.h"
 
 namespace {
 
 using host::ReadMode;
 using vb::String;
 
-using Tablas = std::map<int, std::vector<fake::Line>>;
-
-// A catalogue host that serves each file's tables after its load; an unknown file fails to
-// load and leaves the previous tables current, and reads of table 8 may raise for a while.
-class Catalogos : public fake::Catalog {
-  public:
-    using fake::Catalog::Catalog;
-    std::map<String, Tablas> ficheros;
-    int fallosTabla8 = 0;
-    host::Variant FileLoad(int32_t& s, const String& path) override {
-        fake::Catalog::FileLoad(s, path);
-        const auto it = ficheros.find(path);
-        if (it == ficheros.end()) return false;
-        tables = it->second;
-        return true;
-    }
-    host::Variant TableGetLineRankFromCode(int32_t& s, int32_t t, int32_t z, int16_t sel,
-                                           const String& code, bool flag) override {
-        if (t == 8 && fallosTabla8 > 0 && fallosTabla8--) throw vb::RuntimeError(440, u"busy");
-        return fake::Catalog::TableGetLineRankFromCode(s, t, z, sel, code, flag);
-    }
+struct Linea {
+    const char16_t *code, *text;
+};
+struct Modelo {
+    const char16_t *code, *name, *script;
 };
 
-fake::Line modelo(const String& code, const String& name, const String& script = u"s") {
-    return {code, u"", {{1, code}, {3, name}, {4, script}}};
+void catalogo(sim::World& world, const char16_t* nombre, std::vector<Linea> reglas,
+              std::vector<Modelo> modelos) {
+    auto& cat = world.addCatalog(u"C:\\Cat\\" + String(nombre) + u".cat", u"ESP");
+    for (const auto& r : reglas) cat.tables[2].add({r.code, u"", {{2, r.text}}, u""});
+    for (const auto& m : modelos)
+        cat.tables[8].add({m.code, u"", {{1, m.code}, {3, m.name}, {4, m.script}}, u""});
 }
 
-fake::Line regla(const String& code, const String& text) {
-    return {code, u"", {{2, text}}};
-}
-
-// Three valid models, width allowed by a list, height for all, an exception list for width.
-Tablas catalogoA() {
-    return {{2,
-             {regla(u"MO_EA", u"MO: M02 M03"), regla(u"MO_EAl", u"MO: ALL"),
-              regla(u"EX_EA", u"EX: R1 R2"), regla(u"EX_EAF", u"EX: R5")}},
-            {8,
-             {modelo(u"M01", u"TIBER"), modelo(u"M02", u"MONZA"), modelo(u"M09", u"@OCULTO"),
-              modelo(u"M03", u"URAL")}}};
-}
-
-// Two models, one without script; no width exceptions (the earlier list stays).
-Tablas catalogoB() {
-    return {{2, {regla(u"MO_EF", u"MO:  M01 X"), regla(u"EX_EAAF", u"EX: R7")}},
-            {8, {modelo(u"M01", u"LAZIO"), modelo(u"M02", u"SIN", u"")}}};
-}
-
-// No valid door model at all.
-Tablas catalogoC() {
-    return {{2, {regla(u"EX_EA", u"EX:")}}, {8, {modelo(u"M01", u"@X")}}};
+// a: three valid models, width allowed by a list, height for all, an exception list for width.
+// b: two models, one without script; no width exceptions (the earlier list stays).
+// c: no valid door model at all. A file "zz" is nowhere, so its load fails and the host keeps
+// the catalogue it holds. One cabinet per step, of that step's catalogue file.
+sim::World mundo(const std::vector<String>& ficheros) {
+    sim::World world;
+    catalogo(world, u"a",
+             {{u"MO_EA", u"MO: M02 M03"},
+              {u"MO_EAl", u"MO: ALL"},
+              {u"EX_EA", u"EX: R1 R2"},
+              {u"EX_EAF", u"EX: R5"}},
+             {{u"M01", u"TIBER", u"s"},
+              {u"M02", u"MONZA", u"s"},
+              {u"M09", u"@OCULTO", u"s"},
+              {u"M03", u"URAL", u"s"}});
+    catalogo(world, u"b", {{u"MO_EF", u"MO:  M01 X"}, {u"EX_EAAF", u"EX: R7"}},
+             {{u"M01", u"LAZIO", u"s"}, {u"M02", u"SIN", u""}});
+    catalogo(world, u"c", {{u"EX_EA", u"EX:"}}, {{u"M01", u"@X", u"s"}});
+    world.scene.add(100);
+    for (size_t i = 0; i < ficheros.size(); ++i)
+        world.scene.add(static_cast<int32_t>(110 + 10 * i)).info[0] = ficheros[i];
+    return world;
 }
 
 struct Reglas {
     std::vector<String> modelos;
     int16_t numModelos;
-    std::array<rules::ListaExcepciones, rules::kNumTipos> excepciones;
+    std::array<common::ListaExcepciones, common::kNumTipos> excepciones;
     std::vector<std::vector<bool>> permisos;
     bool error;
     bool operator==(const Reglas&) const = default;
@@ -80,50 +65,34 @@ struct Reglas {
 
 struct Juego {
     std::vector<Reglas> pasos;
-    std::map<std::string, int> preguntas;
+    sim::Json preguntas;  // host calls by member
 };
 
-// One call that loads and prepares `ficheros` in turn; the rule tables after each step.
-Juego juega(ReadMode mode, const std::vector<String>& ficheros, int fallosTabla8) {
-    auto& mv = rules::modVariables();
-    mv = rules::ModVariables{};
+// One call that loads and prepares `ficheros` in turn; the rule tables after each step. In the
+// steps of `fallan` the host lacks TableGetLineRankFromCode, so the preparation stops halfway.
+Juego juega(ReadMode mode, const std::vector<String>& ficheros, const std::set<size_t>& fallan) {
+    tests::OpenCall call(mundo(ficheros), u"", mode);
+    auto& mv = common::modVariables();
     mv.modelos = {u"V1", u"V2", u"V3", u"V4", u"V5", u"V6"};  // an earlier catalogue's
     mv.excepciones[2] = std::vector<String>{u"", u"VIEJA"};
-    fake::Platform platform;
-    platform.profile[u"Local"] = u"C:\\Cat";
-    fake::Factory host;
-    auto catalogos = std::make_shared<Catalogos>(host.calls);
-    catalogos->ficheros = {{u"C:\\Cat\\a.cat", catalogoA()},
-                           {u"C:\\Cat\\b.cat", catalogoB()},
-                           {u"C:\\Cat\\c.cat", catalogoC()}};
-    catalogos->fallosTabla8 = fallosTabla8;
-    host.catalog = catalogos;
-    for (const auto& f : ficheros) platform.files[u"C:\\Cat\\" + f + u".cat"] = 1;
-    host::CachingFactory factory(host, mode);
-    env::Env env{platform, factory};
-    mv.miAppli = host::createAppli(factory);
-    mv.miScene = host::createScene(factory);
-    mv.miCatalog = host::createCatalog(factory);
-    int32_t block = 1;
-    mv.miSessionId = vb::CLng(mv.miAppli->StartSessionFromCallParams(block));
     mv.dirCatalogos = u"C:\\Cat\\";
-    int32_t id = 100;  // one cabinet per step, of that step's catalogue
-    for (const auto& f : ficheros) host.scene->objects[id += 10].info[0] = f;
+    auto& faltan = call.simulation.state().faults.missingMembers;
     Juego juego;
-    id = 100;
     for (size_t i = 0; i < ficheros.size(); ++i) {
+        const int32_t id = static_cast<int32_t>(110 + 10 * i);
         bool error = false;
+        if (fallan.count(i)) faltan = {"TableGetLineRankFromCode"};
         try {
-            handlers::cargaCatalogoObjeto(env, id += 10);
+            common::cargaCatalogoObjeto(call.env, id);
             handlers::preparaReglasDe(id, true);
         } catch (const vb::RuntimeError&) {
             error = true;
         }
+        faltan.clear();
         juego.pasos.push_back(
             {mv.modelos, mv.numModelos, mv.excepciones, mv.permisosModelo, error});
     }
-    mv = rules::ModVariables{};
-    juego.preguntas = host.calls.byMember;
+    juego.preguntas = call.look()["hostCalls"];
     return juego;
 }
 
@@ -131,34 +100,35 @@ TEST(PreparacionModos, KeptPreparationsHaveTheLiteralEffect) {
     const struct {
         const char* nombre;
         std::vector<String> ficheros;
-        int fallosTabla8;
+        std::set<size_t> fallan;
     } casos[] = {
-        {"alternating catalogues", {u"a", u"b", u"a", u"b", u"a"}, 0},
-        {"a failed load prepares what the host still holds", {u"a", u"zz", u"b", u"zz", u"a"}, 0},
-        {"no door model between two", {u"b", u"c", u"b", u"c", u"a", u"c"}, 0},
-        {"an error leaves nothing kept", {u"a", u"a", u"b", u"a"}, 1},
-        {"errors on two preparations", {u"a", u"b", u"a", u"b"}, 2},
+        {"alternating catalogues", {u"a", u"b", u"a", u"b", u"a"}, {}},
+        {"a failed load prepares what the host still holds", {u"a", u"zz", u"b", u"zz", u"a"}, {}},
+        {"no door model between two", {u"b", u"c", u"b", u"c", u"a", u"c"}, {}},
+        {"an error leaves nothing kept", {u"a", u"a", u"b", u"a"}, {0}},
+        {"errors on two preparations", {u"a", u"b", u"a", u"b"}, {0, 1}},
     };
     for (const auto& caso : casos) {
-        const Juego guardado = juega(ReadMode::Cached, caso.ficheros, caso.fallosTabla8);
-        const Juego literal = juega(ReadMode::Literal, caso.ficheros, caso.fallosTabla8);
+        const Juego guardado = juega(ReadMode::Cached, caso.ficheros, caso.fallan);
+        const Juego literal = juega(ReadMode::Literal, caso.ficheros, caso.fallan);
         ASSERT_EQ(guardado.pasos.size(), literal.pasos.size());
         for (size_t i = 0; i < literal.pasos.size(); ++i) {
             EXPECT_TRUE(guardado.pasos[i] == literal.pasos[i]) << caso.nombre << ", step " << i;
+            EXPECT_EQ(literal.pasos[i].error, caso.fallan.count(i) > 0) << caso.nombre;
         }
-        for (const auto& [member, n] : guardado.preguntas) {
-            EXPECT_LE(n, literal.preguntas.at(member)) << caso.nombre << ": " << member;
-        }
-        EXPECT_EQ(guardado.preguntas.at("FileLoad"), literal.preguntas.at("FileLoad"));
+        for (const auto& [member, n] : guardado.preguntas.items())
+            EXPECT_LE(n, literal.preguntas.value(member, 0)) << caso.nombre << ": " << member;
+        EXPECT_EQ(guardado.preguntas["FileLoad"], literal.preguntas["FileLoad"]);
     }
 }
 
 TEST(PreparacionModos, APreparedCatalogueIsNotReadAgain) {
-    const Juego una = juega(ReadMode::Cached, {u"a"}, 0);
-    const Juego varias = juega(ReadMode::Cached, {u"a", u"b", u"a", u"b", u"a"}, 0);
-    const Juego dos = juega(ReadMode::Cached, {u"a", u"b"}, 0);
-    EXPECT_EQ(varias.preguntas.at("TableGetLineInfo"), dos.preguntas.at("TableGetLineInfo"));
-    EXPECT_GT(dos.preguntas.at("TableGetLineInfo"), una.preguntas.at("TableGetLineInfo"));
+    const auto lecturas = [](const std::vector<String>& ficheros) {
+        return juega(ReadMode::Cached, ficheros, {}).preguntas["TableGetLineInfo"].get<int>();
+    };
+    const int dos = lecturas({u"a", u"b"});
+    EXPECT_EQ(lecturas({u"a", u"b", u"a", u"b", u"a"}), dos);
+    EXPECT_GT(dos, lecturas({u"a"}));
 }
 
 }  // namespace

@@ -2,19 +2,27 @@
 // the host at every step; anything else, or nothing, keeps reads for the call.
 #include <gtest/gtest.h>
 
-#include "../rules/FakeHost.h"
+#include <map>
+
 #include "env/HostReads.h"
+#include "native/SimPlatform.h"
 #include "vb/Strings.h"
 
 namespace {
 
-class EnvPlatform : public fake::Platform {
+// The simulated machine's platform with a process environment, which the simulated host has
+// no need of: the one seam this reader needs.
+class EnvPlatform : public native::SimPlatform {
   public:
+    EnvPlatform() : native::SimPlatform(simulation_) {}
     std::map<vb::String, vb::String> variables;
     vb::String environmentVariable(const vb::String& name) override {
         const auto it = variables.find(name);
         return it == variables.end() ? vb::String() : it->second;
     }
+
+  private:
+    sim::Simulation simulation_{sim::World{}};
 };
 
 TEST(ReadMode, FromTheEnvironmentVariable) {

@@ -9,8 +9,10 @@
 #include <vector>
 
 #include "lint/Lint.h"
+#include "lint/TextKeys.h"
 #include "sim/Json.h"
 #include "sim/ScenarioLoader.h"
+#include "vb/Strings.h"
 
 namespace lint_test {
 
@@ -29,23 +31,21 @@ inline Json modelLine(const std::string& code, const std::string& name,
     return {{"code", code}, {"cols", {{"1", code}, {"3", name}, {"4", script}}}};
 }
 
-inline std::vector<std::string> textKeys() {
-    std::vector<std::string> keys = {"TR_9001", "TR_9003", "TR_9004", "TR_9006", "TR_9007",
-                                     "TR_9010", "TR_9011", "TR_9014", "TR_9015", "TR_9016",
-                                     "TR_9017", "TR_9018", "TR_9019", "TR_9020", "TR_9021"};
-    for (int n : {1,  2,  3,  4,  5,  6,  7,  8,  9,  10, 11, 12, 13, 14, 15,
-                  16, 17, 18, 19, 21, 22, 23, 24, 27, 28, 37, 38, 43, 44}) {
-        const std::string digits = std::to_string(n);
-        keys.push_back("TR_" + std::string(4 - digits.size(), '0') + digits);
+// Every text the plug-in reads has a line; the two diagonal names are texts a person would write.
+inline Json textLines() {
+    Json lines = Json::array();
+    for (const auto& key : lint::textKeys()) {
+        const std::string code = vb::toUtf8(key.key);
+        const std::string text = code == "TR_0046"   ? "Diagonal por longitudes"
+                                 : code == "TR_0047" ? "Diagonal por ángulo"
+                                                     : "texto " + code;
+        lines.push_back(textLine(code, text));
     }
-    return keys;
+    return lines;
 }
 
 inline Json cleanCatalogue() {
-    Json t2 = Json::array();
-    for (const auto& key : textKeys()) t2.push_back(textLine(key, "texto " + key));
-    t2.push_back(textLine("TR_0046", "Diagonal por longitudes"));
-    t2.push_back(textLine("TR_0047", "Diagonal por ángulo"));
+    Json t2 = textLines();
     t2.push_back(ruleLine("MO_EA", "MO: M01"));
     for (const char* code : {"MO_EAl", "MO_EF", "MO_EAAl", "MO_EAF", "MO_EAlF"})
         t2.push_back(ruleLine(code, "MO: M01 M02"));

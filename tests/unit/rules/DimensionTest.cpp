@@ -9,7 +9,7 @@
 
 namespace {
 
-using rules::ModVariables;
+using common::ModVariables;
 using vb::String;
 
 constexpr int32_t kObjeto = 500;

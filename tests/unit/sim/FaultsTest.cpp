@@ -4,9 +4,9 @@
 
 #include <stdexcept>
 
+#include "common/ModVariables.h"
 #include "native/RunScenario.h"
 #include "native/SimPlatform.h"
-#include "rules/ModVariables.h"
 #include "sim/Faults.h"
 #include "sim/Player.h"
 #include "sim/ScenarioLoader.h"
@@ -116,7 +116,7 @@ TEST(CountedFaults, ARefusedProgIdRaises429AndNoObjectSurvivesTheCall) {
         const Json call = simulation.recorder().calls().back();
         EXPECT_EQ(call["error"]["number"], vb::err::kCantCreateObject) << className << method;
         EXPECT_EQ(simulation.state().liveHostObjects, 0) << className << method;
-        EXPECT_FALSE(rules::modVariables().miAppli) << className << method;
+        EXPECT_FALSE(common::modVariables().miAppli) << className << method;
     }
 }
 

@@ -2,7 +2,6 @@
 // the attribute dialog and message boxes.
 #include <gtest/gtest.h>
 
-#include "handlers/Catalogo.h"
 #include "native/IniProfile.h"
 #include "native/SimPlatform.h"
 #include "vb/Errors.h"
@@ -123,39 +122,6 @@ TEST_F(Platform, MessageBoxesAndBeepsAreEvents) {
     EXPECT_EQ(events[0]["icon"], "critical");
     EXPECT_EQ(events[1]["type"], "beep");
     EXPECT_EQ(platform.moduleFolder(), u"C:\\Quorbel");
-}
-
-}  // namespace
-
-namespace {
-
-// The catalogue directory as the plug-in reads it through this platform: sections Local,
-// InSitu, Remote in that order, the first non-empty value winning, cut to 63 characters.
-TEST(CatalogueDirectory, SectionsInTheCallersOrder) {
-    struct Case {
-        const char16_t* ini;  // null: no SPACE.INI
-        vb::String expected;
-    };
-    const vb::String long70(70, u'd');
-    for (const Case& c : {Case{u"[Remote]\r\nCatalogsDir=R\r\n[InSitu]\r\nCatalogsDir=I\r\n", u"I"},
-                          Case{u"[Remote]\r\nCatalogsDir=R\r\n", u"R"},
-                          Case{u"[LOCAL]\r\ncatalogsdir=L\r\n[InSitu]\r\nCatalogsDir=I\r\n", u"L"},
-                          Case{u"[Local]\r\nCatalogsDir=\r\n[Remote]\r\nCatalogsDir=R\r\n", u"R"},
-                          Case{u"[Other]\r\nCatalogsDir=O\r\n", u""}, Case{nullptr, u""}}) {
-        sim::World world;
-        if (c.ini) world.files.putFile(u"C:\\Quorbel\\SPACE.INI", c.ini);
-        sim::Simulation simulation(std::move(world));
-        native::SimPlatform platform(simulation);
-        env::Env env{platform, simulation.factory(), nullptr};
-        EXPECT_EQ(handlers::leeDirCatalogos(env), c.expected)
-            << (c.ini ? vb::toUtf8(c.ini) : "none");
-    }
-    sim::World world;
-    world.files.putFile(u"C:\\Quorbel\\SPACE.INI", u"[InSitu]\r\nCatalogsDir=" + long70);
-    sim::Simulation simulation(std::move(world));
-    native::SimPlatform platform(simulation);
-    env::Env env{platform, simulation.factory(), nullptr};
-    EXPECT_EQ(handlers::leeDirCatalogos(env), long70.substr(0, 63));
 }
 
 }  // namespace

@@ -1,13 +1,13 @@
-#include "handlers/Textos.h"
+#include "common/Textos.h"
 
+#include "common/ModVariables.h"
 #include "host/Factory.h"
-#include "rules/ModVariables.h"
 #include "vb/Conversions.h"
 
-namespace handlers {
+namespace common {
 
 String textoCatalogo(const String& key) {
-    auto& mv = rules::modVariables();
+    auto& mv = modVariables();
     auto& catalogo = host::use(mv.miCatalog);
     const int32_t rank =
         vb::CLng(catalogo.TableGetLineRankFromCode(mv.miSessionId, 2, 0, 1, key, false));
@@ -16,7 +16,7 @@ String textoCatalogo(const String& key) {
 }
 
 Idiomas leeIdiomas() {
-    auto& mv = rules::modVariables();
+    auto& mv = modVariables();
     Idiomas idiomas;
     idiomas.aplicacion = vb::CStr(host::use(mv.miAppli).GetLanguage(mv.miSessionId));
     idiomas.catalogo = vb::CStr(host::use(mv.miCatalog).GetInfo(mv.miSessionId, 17));
@@ -26,7 +26,7 @@ Idiomas leeIdiomas() {
 
 String traduce(const Idiomas& idiomas, const String& text) {
     if (!idiomas.traducir) return text;
-    auto& mv = rules::modVariables();
+    auto& mv = modVariables();
     return vb::CStr(
         host::use(mv.miCatalog).DicoGetStringFromKey(mv.miSessionId, text, idiomas.aplicacion));
 }
@@ -35,4 +35,4 @@ String textoTraducido(const Idiomas& idiomas, const String& key) {
     return traduce(idiomas, textoCatalogo(key));
 }
 
-}  // namespace handlers
+}  // namespace common

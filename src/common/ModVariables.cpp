@@ -1,9 +1,9 @@
-#include "rules/ModVariables.h"
+#include "common/ModVariables.h"
 
 #include <atomic>
 #include <utility>
 
-namespace rules {
+namespace common {
 
 namespace {
 
@@ -43,4 +43,4 @@ ModVariables& modVariables() {
     return *variables;
 }
 
-}  // namespace rules
+}  // namespace common

@@ -7,7 +7,7 @@
 
 #include "vb/Variant.h"
 
-namespace rules {
+namespace common {
 
 using vb::String;
 
@@ -58,4 +58,4 @@ String mayusculaInicial(String texto);
 // "text" in double quotes, as the trace shows names and codes taken from the tables.
 String entreComillas(const String& texto);
 
-}  // namespace rules
+}  // namespace common

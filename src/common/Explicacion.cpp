@@ -1,9 +1,9 @@
-#include "rules/Explicacion.h"
+#include "common/Explicacion.h"
 
-#include "rules/ModVariables.h"
+#include "common/ModVariables.h"
 #include "vb/Conversions.h"
 
-namespace rules {
+namespace common {
 
 namespace {
 
@@ -42,4 +42,4 @@ String entreComillas(const String& texto) {
     return u"\"" + texto + u"\"";
 }
 
-}  // namespace rules
+}  // namespace common

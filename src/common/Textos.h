@@ -3,7 +3,7 @@
 // dictionary. All of it works on the shared session and host objects.
 #include "vb/Variant.h"
 
-namespace handlers {
+namespace common {
 
 using vb::String;
 
@@ -22,4 +22,4 @@ String traduce(const Idiomas& idiomas, const String& text);
 // textoCatalogo(key), translated when idiomas.traducir.
 String textoTraducido(const Idiomas& idiomas, const String& key);
 
-}  // namespace handlers
+}  // namespace common

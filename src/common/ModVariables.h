@@ -11,7 +11,7 @@
 #include "host/Host.h"
 #include "platform/XmlDocument.h"
 
-namespace rules {
+namespace common {
 
 using vb::String;
 
@@ -64,4 +64,4 @@ struct ModVariables {
 // This thread's set.
 ModVariables& modVariables();
 
-}  // namespace rules
+}  // namespace common

@@ -5,10 +5,10 @@
 
 #include "env/Env.h"
 
-namespace handlers {
+namespace common {
 
 using env::Env;
 
 bool componentesB(Env& env, int32_t lCallParamsBlock);
 
-}  // namespace handlers
+}  // namespace common

@@ -1,14 +1,14 @@
-#include "handlers/Catalogo.h"
+#include "common/Catalogo.h"
 
 #include <array>
 
+#include "common/Explicacion.h"
+#include "common/ModVariables.h"
 #include "host/Factory.h"
-#include "rules/Explicacion.h"
-#include "rules/ModVariables.h"
 #include "vb/Conversions.h"
 #include "vb/Strings.h"
 
-namespace handlers {
+namespace common {
 
 namespace {
 
@@ -31,7 +31,7 @@ String valorDeLinea(const String& line) {
 }
 
 String explicaCarga(const String& name, const String& directa, const CargaCatalogo& carga) {
-    String texto = u"Catalogue " + rules::entreComillas(name) + u" (information 0): ";
+    String texto = u"Catalogue " + entreComillas(name) + u" (information 0): ";
     if (carga.ruta != directa) {
         texto += u"not at " + directa + u", found in a sub-folder as " + carga.ruta;
     } else {
@@ -79,7 +79,7 @@ String leeDirCatalogosTexto(Env& env) {
 }
 
 CargaCatalogo cargaCatalogoObjeto(Env& env, int32_t objectId) {
-    auto& mv = rules::modVariables();
+    auto& mv = modVariables();
     const String name = vb::CStr(host::use(mv.miScene).ObjectGetInfo(mv.miSessionId, objectId, 0));
     CargaCatalogo carga;
     carga.ruta = mv.dirCatalogos + name + u".cat";
@@ -99,7 +99,7 @@ CargaCatalogo cargaCatalogoObjeto(Env& env, int32_t objectId) {
         }
     }
     carga.cargado = vb::CBool(host::use(mv.miCatalog).FileLoad(mv.miSessionId, carga.ruta));
-    rules::explica([&] { return explicaCarga(name, directa, carga); });
+    explica([&] { return explicaCarga(name, directa, carga); });
     return carga;
 }
 
@@ -120,4 +120,4 @@ int64_t tamanoArchivo(Env& env, const String& path) {
     }
 }
 
-}  // namespace handlers
+}  // namespace common

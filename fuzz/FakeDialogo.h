@@ -1,16 +1,17 @@
 #pragma once
-// A small host and platform for tests of the dialog model: scene objects with information
-// codes, children and scripts; table 2 texts; a record of writes, messages and beeps.
+// The small host and platform the cut-out document target plays the dialog on (the unit tests
+// use the simulated host): scene objects with information codes, children and scripts; table 2
+// texts; a record of writes, messages and beeps.
 #include <map>
 #include <memory>
 #include <tuple>
 #include <vector>
 
+#include "common/ModVariables.h"
 #include "dialog/frmEspEnc.h"
 #include "host/Factory.h"
 #include "native/XmlDocumentLibxml.h"
 #include "platform/Platform.h"
-#include "rules/ModVariables.h"
 
 namespace fakedlg {
 
@@ -147,8 +148,8 @@ struct Banco {
     std::unique_ptr<dialog::frmEspEnc> form;
 
     Banco() {
-        auto& mv = rules::modVariables();
-        mv = rules::ModVariables{};
+        auto& mv = common::modVariables();
+        mv = common::ModVariables{};
         mv.miAppli = std::make_shared<Appli>();
         mv.miScene = std::make_shared<Scene>(mundo);
         mv.miCatalog = std::make_shared<Catalog>(mundo);
@@ -156,7 +157,7 @@ struct Banco {
         mv.idsHijosEsp.fill(-2);
         form = std::make_unique<dialog::frmEspEnc>(env);
     }
-    ~Banco() { rules::modVariables() = rules::ModVariables{}; }
+    ~Banco() { common::modVariables() = common::ModVariables{}; }
     dialog::frmEspEnc& f() { return *form; }
 };
 

@@ -5,7 +5,7 @@
 #include "env/Env.h"
 #include "vb/Variant.h"
 
-namespace handlers {
+namespace common {
 
 using env::Env;
 
@@ -25,4 +25,4 @@ CargaCatalogo cargaCatalogoObjeto(Env& env, int32_t objectId);
 bool existeArchivo(Env& env, const String& path);
 int64_t tamanoArchivo(Env& env, const String& path);
 
-}  // namespace handlers
+}  // namespace common
