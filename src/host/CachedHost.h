@@ -16,13 +16,7 @@ class CachedAppli : public Appli {
   public:
     CachedAppli(AppliRef inner, CacheRef cache)
         : inner_(std::move(inner)), cache_(std::move(cache)) {}
-    Variant StartSessionFromCallParams(int32_t& callParamsBlock) override;
-    Variant EndSession(int32_t& sessionId) override;
-    Variant GetLanguage(int32_t& sessionId) override;
-    Variant GetCallParamsInfo(int32_t& sessionId, int32_t code) override;
-    Variant InsertMenuItem(int32_t& sessionId, String& command, int16_t a, int16_t b,
-                           const String& text, int16_t c, int16_t d, const String& dll,
-                           const String& className, const String& method) override;
+    QUORBEL_APPLI_MEMBERS(QUORBEL_DECLARE_OVERRIDE)
 
   private:
     AppliRef inner_;
@@ -33,20 +27,7 @@ class CachedScene : public Scene {
   public:
     CachedScene(SceneRef inner, CacheRef cache)
         : inner_(std::move(inner)), cache_(std::move(cache)) {}
-    Variant ObjectGetInfo(int32_t& sessionId, int32_t objectId, int32_t code) override;
-    Variant ObjectSetInfo(int32_t& sessionId, int32_t objectId, const String& value,
-                          int32_t code) override;
-    Variant ViewRefresh(int32_t& sessionId) override;
-    Variant SceneGetObjectsNb(int32_t& sessionId) override;
-    Variant SceneGetObjectId(int32_t& sessionId, int32_t position) override;
-    Variant ObjectGetParentId(int32_t& sessionId, int32_t objectId) override;
-    Variant ObjectGetChildrenNb(int32_t& sessionId, int32_t objectId, int16_t mode) override;
-    Variant ObjectGetChildId(int32_t& sessionId, int32_t objectId, int32_t position,
-                             int16_t mode) override;
-    Variant ObjectGetScript(int32_t& sessionId, int32_t objectId) override;
-    Variant EditReplaceSelection(int32_t& sessionId, const String& catalog, const String& reference,
-                                 int16_t a, int32_t width, int32_t depth, int32_t height,
-                                 int16_t b) override;
+    QUORBEL_SCENE_MEMBERS(QUORBEL_DECLARE_OVERRIDE)
 
   private:
     template <class Ask>
@@ -59,18 +40,7 @@ class CachedCatalog : public Catalog {
   public:
     CachedCatalog(CatalogRef inner, CacheRef cache)
         : inner_(std::move(inner)), cache_(std::move(cache)) {}
-    Variant FileLoad(int32_t& sessionId, const String& path) override;
-    Variant GetInfo(int32_t& sessionId, int32_t code) override;
-    Variant DicoGetStringFromKey(int32_t& sessionId, const String& text,
-                                 const String& language) override;
-    Variant TableGetLinesNb(int32_t& sessionId, int32_t table, int16_t zero) override;
-    Variant TableGetLineRankFromCode(int32_t& sessionId, int32_t table, int32_t zero,
-                                     int16_t selector, const String& code, bool flag) override;
-    Variant TableGetLineRankFromName(int32_t& sessionId, int32_t table, int32_t zero,
-                                     int16_t selector, const String& name, bool flag) override;
-    Variant TableGetLineInfo(int32_t& sessionId, int32_t table, int32_t zero, int32_t rank,
-                             int16_t column) override;
-    Variant FileExportResource(int32_t& sessionId, int32_t rank, const String& path) override;
+    QUORBEL_CATALOG_MEMBERS(QUORBEL_DECLARE_OVERRIDE)
 
     ReadCache& cache() { return *cache_; }
 

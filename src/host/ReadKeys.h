@@ -6,26 +6,9 @@
 #include <string_view>
 #include <unordered_map>
 
-#include "vb/Variant.h"
+#include "host/HostMembers.h"
 
 namespace host {
-
-enum class Member : uint8_t {
-    GetLanguage,
-    ObjectGetInfo,
-    ObjectGetScript,
-    ObjectGetChildrenNb,
-    ObjectGetChildId,
-    ObjectGetParentId,
-    SceneGetObjectsNb,
-    SceneGetObjectId,
-    GetInfo,
-    DicoGetStringFromKey,
-    TableGetLinesNb,
-    TableGetLineRankFromCode,
-    TableGetLineRankFromName,
-    TableGetLineInfo,
-};
 
 // A read whose arguments are all numbers (unused places stay 0).
 struct NumKey {
