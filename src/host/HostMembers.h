@@ -1,7 +1,7 @@
 #pragma once
 // Every member of the host's three automation objects, once: its object, its name, how the kept
 // reads treat it, and its arguments in order, each with its shape at the boundary and its name.
-// The abstract interfaces (Host.h), the caching decorator's declarations, the simulated host's
+// The abstract interfaces (Host.h), the caching decorator and its keys, the simulated host's
 // declarations, the Windows shell's calls by name and the test host's served objects are all
 // derived from these lists, so no two of them can disagree on a member or an argument.
 #include <cstddef>

@@ -14,6 +14,9 @@ enum class VarType { Empty, Null, Boolean, Integer, Long, Double, String };
 
 class Variant {
   public:
+    // A text longer than the string object holds by itself, shared by every copy of the Variant.
+    using SharedText = std::shared_ptr<const String>;
+
     Variant() = default;
     Variant(bool b) : v_(b) {}
     Variant(int16_t i) : v_(i) {}
@@ -21,6 +24,13 @@ class Variant {
     Variant(double d) : v_(d) {}
     Variant(String s) { setText(std::move(s)); }
     Variant(const char16_t* s) : Variant(String(s)) {}
+    explicit Variant(SharedText text) {
+        if (text) {
+            v_ = std::move(text);
+        } else {
+            v_ = String();
+        }
+    }
 
     static Variant null() {
         Variant v;
@@ -44,6 +54,8 @@ class Variant {
         if (const auto* shared = std::get_if<SharedText>(&v_)) return **shared;
         return std::get<String>(v_);
     }
+    // The shared text of a long text; null for any other value.
+    const SharedText* sharedText() const { return std::get_if<SharedText>(&v_); }
 
     bool operator==(const Variant& o) const {
         if (type() != o.type()) return false;
@@ -56,7 +68,6 @@ class Variant {
     };
     // A text longer than the string object holds by itself is shared by every copy of the
     // Variant: copying a host's answer (as a kept read does) never copies or allocates a text.
-    using SharedText = std::shared_ptr<const String>;
     void setText(String s) {
         if (s.size() <= String().capacity()) {
             v_ = std::move(s);
