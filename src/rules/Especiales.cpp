@@ -4,6 +4,8 @@
 #include <optional>
 #include <vector>
 
+#include "host/CachedHost.h"
+#include "rules/NombresDeCodigos.h"
 #include "vb/Conversions.h"
 #include "vb/Strings.h"
 
@@ -47,7 +49,8 @@ void marcaTodos(ModVariables& mv, int k, bool valor) {
     for (int m = 0; m < mv.numModelos; ++m) mv.permisosModelo[m][k] = valor;
 }
 
-// One permission line per kind, the list looked up anew for every model.
+// One permission line per kind, the list looked up anew for every model; with the reads
+// kept, each code once (NombresDeCodigos.h), which asks the host the same.
 void llenaTipo(ModVariables& mv, int k, int32_t& sessionId, host::Catalog& catalog,
                const String& code) {
     const auto regla = reglaDe(sessionId, catalog, code);
@@ -55,6 +58,12 @@ void llenaTipo(ModVariables& mv, int k, int32_t& sessionId, host::Catalog& catal
     const String rest = restoDe(*regla);
     if (rest == u" ALL") return marcaTodos(mv, k, true);
     const auto codes = vb::Split(rest, u" ");
+    if (host::keepsReads(catalog)) {
+        NombresDeCodigos nombres(sessionId, catalog, codes);
+        for (int m = 0; m < mv.numModelos; ++m)
+            mv.permisosModelo[m][k] = nombres.nombra(modeloDe(mv, m));
+        return;
+    }
     for (int m = 0; m < mv.numModelos; ++m) {
         mv.permisosModelo[m][k] = codigoNombra(sessionId, catalog, codes, modeloDe(mv, m));
     }
