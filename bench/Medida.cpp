@@ -8,9 +8,6 @@
 #include <fstream>
 #include <string>
 
-#include "native/SimPlatform.h"
-#include "sim/Player.h"
-
 namespace bench {
 
 void Medida::suma(const Medida& otra) {
@@ -49,18 +46,24 @@ double segundosCpu() {
 
 }  // namespace
 
-Medida juega(sim::World world, const sim::CallSpec& call, host::ReadMode modo) {
-    sim::Simulation simulation(std::move(world));
-    native::SimPlatform platform(simulation);
-    sim::Player player(simulation, platform, modo);
+Partida::Partida(host::ReadMode modo)
+    : simulation_(sim::World{}), platform_(simulation_), player_(simulation_, platform_, modo) {}
+
+Medida Partida::juega(sim::World world, const sim::CallSpec& call) {
+    simulation_.world() = std::move(world);
     const double start = segundosCpu();
-    player.play(call);
+    player_.play(call);
     Medida m;
     m.segundos = segundosCpu() - start;
-    const auto& played = simulation.recorder().calls().back();
+    const auto& played = simulation_.recorder().calls().back();
     for (const auto& [member, n] : played["hostCalls"].items()) m.llamadas += n.get<int64_t>();
     for (const auto& event : played["events"]) m.dialogos += event["type"] == "dialogShown" ? 1 : 0;
     m.picoMB = picoMB();
+    // The world goes before the next one is built, so that a peak holds one world; no catalogue
+    // of it may stay current.
+    simulation_.world() = sim::World{};
+    simulation_.state().currentCatalog = nullptr;
+    simulation_.recorder().forgetCalls();
     return m;
 }
 

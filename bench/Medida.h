@@ -1,7 +1,9 @@
 #pragma once
-// Plays one call of a generated world in a given reading mode and measures it: CPU time of the
+// Plays calls of generated worlds in a given reading mode and measures each: CPU time of the
 // call, host calls, and the process's peak memory while it ran.
 #include "host/ReadMode.h"
+#include "native/SimPlatform.h"
+#include "sim/Player.h"
 #include "sim/Scenario.h"
 #include "sim/World.h"
 
@@ -15,7 +17,18 @@ struct Medida {
     void suma(const Medida& otra);
 };
 
-Medida juega(sim::World world, const sim::CallSpec& call, host::ReadMode modo);
+// One plug-in instance over the simulated host, kept from call to call as the host keeps it;
+// every call is played on a fresh world.
+class Partida {
+  public:
+    explicit Partida(host::ReadMode modo);
+    Medida juega(sim::World world, const sim::CallSpec& call);
+
+  private:
+    sim::Simulation simulation_;
+    native::SimPlatform platform_;
+    sim::Player player_;
+};
 
 // Starts a new peak-memory measure (Linux: the resident set's high-water mark is reset, after
 // freed memory has been given back). False when the system does not allow it.

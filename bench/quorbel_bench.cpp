@@ -29,16 +29,18 @@ void informa(benchmark::State& state, const Medida& total, int objetos) {
     state.SetLabel(modo(state) == ReadMode::Literal ? "literal" : "cached");
 }
 
-// Plays `call` on a fresh world each iteration; only the call itself is timed.
+// Plays `call` on a fresh world each iteration, by one plug-in instance for all of them; only
+// the call itself is timed.
 template <class Mundo>
 Medida mide(benchmark::State& state, Mundo&& mundo, const sim::CallSpec& call, int objetos) {
+    bench::Partida partida(modo(state));
     bench::reiniciaPico();
     Medida total;
     for (auto _ : state) {
         state.PauseTiming();
         sim::World world = mundo();
         state.ResumeTiming();
-        total.suma(bench::juega(std::move(world), call, modo(state)));
+        total.suma(partida.juega(std::move(world), call));
     }
     informa(state, total, objetos);
     return total;

@@ -105,7 +105,7 @@ bool CallArgs::boolean(size_t i) const {
 }
 
 SimDispatch::SimDispatch(std::wstring progId, std::shared_ptr<host::HostObject> owner,
-                         std::vector<Member> members)
+                         std::vector<ServedMember> members)
     : progId_(std::move(progId)), owner_(std::move(owner)), members_(std::move(members)) {
     liveObjects().insert(this);
 }
@@ -162,7 +162,7 @@ STDMETHODIMP SimDispatch::Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS
     if (id < 1 || static_cast<size_t>(id) > members_.size()) return DISP_E_MEMBERNOTFOUND;
     if (!(flags & DISPATCH_METHOD) || !params) return DISP_E_MEMBERNOTFOUND;
     if (params->cNamedArgs != 0) return DISP_E_NONAMEDARGS;
-    const Member& member = members_[static_cast<size_t>(id - 1)];
+    const ServedMember& member = members_[static_cast<size_t>(id - 1)];
     if (params->cArgs != member.shapes.size()) return DISP_E_BADPARAMCOUNT;
     const int bad = mismatchedArgument(*params, member.shapes);
     if (bad >= 0) {

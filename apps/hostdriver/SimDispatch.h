@@ -15,7 +15,7 @@
 namespace hostdriver {
 
 // The VARIANT type each argument must have.
-enum class Shape { SessionRef, Long, Int, Bool, Str, StrRef };
+using Shape = host::Shape;
 
 // The checked arguments of one call, in declaration order.
 class CallArgs {
@@ -24,6 +24,10 @@ class CallArgs {
     ~CallArgs();  // writes by-reference strings back
     CallArgs(const CallArgs&) = delete;
     CallArgs& operator=(const CallArgs&) = delete;
+
+    // The argument of parameter type P (HostMembers.h: one type per shape).
+    template <class P>
+    P get(size_t i);
 
     int32_t& session(size_t i);
     int32_t i4(size_t i) const;
@@ -38,7 +42,25 @@ class CallArgs {
     std::vector<vb::String> strings_;
 };
 
-struct Member {
+template <class P>
+P CallArgs::get(size_t i) {
+    constexpr Shape shape = host::shapeOf<P>();
+    if constexpr (shape == Shape::SessionRef) {
+        return session(i);
+    } else if constexpr (shape == Shape::Long) {
+        return i4(i);
+    } else if constexpr (shape == Shape::Int) {
+        return i2(i);
+    } else if constexpr (shape == Shape::Bool) {
+        return boolean(i);
+    } else if constexpr (shape == Shape::Str) {
+        return str(i);
+    } else {
+        return strRef(i);
+    }
+}
+
+struct ServedMember {
     const wchar_t* name;
     std::vector<Shape> shapes;
     std::function<vb::Variant(CallArgs&)> call;
@@ -51,7 +73,7 @@ class SimDispatch : public IDispatch {
   public:
     // `owner` keeps the simulated object alive as long as this COM object.
     SimDispatch(std::wstring progId, std::shared_ptr<host::HostObject> owner,
-                std::vector<Member> members);
+                std::vector<ServedMember> members);
     virtual ~SimDispatch();
 
     const std::wstring& progId() const { return progId_; }
@@ -69,7 +91,7 @@ class SimDispatch : public IDispatch {
     LONG refs_ = 1;
     std::wstring progId_;
     std::shared_ptr<host::HostObject> owner_;
-    std::vector<Member> members_;
+    std::vector<ServedMember> members_;
 };
 
 // The ProgID of a simulated host object made here; empty for any other object.

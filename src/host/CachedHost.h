@@ -1,7 +1,9 @@
 #pragma once
-// The three host objects with their reads kept in the call's ReadCache. Every member still
-// has the host's shape; writes, exports, the menu item, the view, the call parameters and the
-// sessions always reach the host. A session's start or end forgets everything kept.
+// The three host objects with their reads kept in the call's ReadCache. Every member keeps the
+// host's shape and does what its Keeping (HostMembers.h) says: reads are answered from what the
+// host answered before in the call; writes, exports, the menu item, the view, the call
+// parameters and the sessions always reach the host. A session's start or end forgets
+// everything kept.
 #include <any>
 #include <memory>
 
@@ -12,80 +14,54 @@ namespace host {
 
 using CacheRef = std::shared_ptr<ReadCache>;
 
-class CachedAppli : public Appli {
+class CachedObject {
+  protected:
+    explicit CachedObject(CacheRef cache) : cache_(std::move(cache)) {}
+    // The one way every member goes: `ask` calls the inner object.
+    template <Keeping keeping, class Key, class Ask>
+    Variant keep(const Key& key, Ask&& ask);
+    CacheRef cache_;
+};
+
+class CachedAppli : public Appli, CachedObject {
   public:
     CachedAppli(AppliRef inner, CacheRef cache)
-        : inner_(std::move(inner)), cache_(std::move(cache)) {}
-    Variant StartSessionFromCallParams(int32_t& callParamsBlock) override;
-    Variant EndSession(int32_t& sessionId) override;
-    Variant GetLanguage(int32_t& sessionId) override;
-    Variant GetCallParamsInfo(int32_t& sessionId, int32_t code) override;
-    Variant InsertMenuItem(int32_t& sessionId, String& command, int16_t a, int16_t b,
-                           const String& text, int16_t c, int16_t d, const String& dll,
-                           const String& className, const String& method) override;
+        : CachedObject(std::move(cache)), inner_(std::move(inner)) {}
+    QUORBEL_APPLI_MEMBERS(QUORBEL_DECLARE_OVERRIDE)
 
   private:
     AppliRef inner_;
-    CacheRef cache_;
 };
 
-class CachedScene : public Scene {
+class CachedScene : public Scene, CachedObject {
   public:
     CachedScene(SceneRef inner, CacheRef cache)
-        : inner_(std::move(inner)), cache_(std::move(cache)) {}
-    Variant ObjectGetInfo(int32_t& sessionId, int32_t objectId, int32_t code) override;
-    Variant ObjectSetInfo(int32_t& sessionId, int32_t objectId, const String& value,
-                          int32_t code) override;
-    Variant ViewRefresh(int32_t& sessionId) override;
-    Variant SceneGetObjectsNb(int32_t& sessionId) override;
-    Variant SceneGetObjectId(int32_t& sessionId, int32_t position) override;
-    Variant ObjectGetParentId(int32_t& sessionId, int32_t objectId) override;
-    Variant ObjectGetChildrenNb(int32_t& sessionId, int32_t objectId, int16_t mode) override;
-    Variant ObjectGetChildId(int32_t& sessionId, int32_t objectId, int32_t position,
-                             int16_t mode) override;
-    Variant ObjectGetScript(int32_t& sessionId, int32_t objectId) override;
-    Variant EditReplaceSelection(int32_t& sessionId, const String& catalog, const String& reference,
-                                 int16_t a, int32_t width, int32_t depth, int32_t height,
-                                 int16_t b) override;
+        : CachedObject(std::move(cache)), inner_(std::move(inner)) {}
+    QUORBEL_SCENE_MEMBERS(QUORBEL_DECLARE_OVERRIDE)
 
   private:
-    template <class Ask>
-    Variant read(Member member, int32_t a, int32_t b, int32_t c, Ask&& ask);
     SceneRef inner_;
-    CacheRef cache_;
 };
 
-class CachedCatalog : public Catalog {
+class CachedCatalog : public Catalog, CachedObject {
   public:
     CachedCatalog(CatalogRef inner, CacheRef cache)
-        : inner_(std::move(inner)), cache_(std::move(cache)) {}
-    Variant FileLoad(int32_t& sessionId, const String& path) override;
-    Variant GetInfo(int32_t& sessionId, int32_t code) override;
-    Variant DicoGetStringFromKey(int32_t& sessionId, const String& text,
-                                 const String& language) override;
-    Variant TableGetLinesNb(int32_t& sessionId, int32_t table, int16_t zero) override;
-    Variant TableGetLineRankFromCode(int32_t& sessionId, int32_t table, int32_t zero,
-                                     int16_t selector, const String& code, bool flag) override;
-    Variant TableGetLineRankFromName(int32_t& sessionId, int32_t table, int32_t zero,
-                                     int16_t selector, const String& name, bool flag) override;
-    Variant TableGetLineInfo(int32_t& sessionId, int32_t table, int32_t zero, int32_t rank,
-                             int16_t column) override;
-    Variant FileExportResource(int32_t& sessionId, int32_t rank, const String& path) override;
+        : CachedObject(std::move(cache)), inner_(std::move(inner)) {}
+    QUORBEL_CATALOG_MEMBERS(QUORBEL_DECLARE_OVERRIDE)
 
     ReadCache& cache() { return *cache_; }
 
   private:
-    template <class Key, class Ask>
-    Variant read(const Key& key, Ask&& ask) {
-        return cache_->read(cache_->catalogue(), key, std::forward<Ask>(ask));
-    }
     CatalogRef inner_;
-    CacheRef cache_;
 };
+
+// Whether `catalog` keeps the answers of the file it reads now: false in the literal mode and
+// after a failed load, until the next successful one.
+bool keepsReads(Catalog& catalog);
 
 // A slot beside the answers of the catalogue file loaded last, where a caller keeps what it
 // derived from them; it lives exactly as long as those answers. Null when `catalog` keeps no
-// answers (the literal mode) or when no file is current (after a failed load).
+// answers (as keepsReads).
 std::any* fileMemo(Catalog& catalog);
 
 }  // namespace host

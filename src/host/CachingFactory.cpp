@@ -3,11 +3,16 @@
 namespace host {
 
 CacheRef CachingFactory::sharedCache() {
-    CacheRef cache = cache_.lock();
-    if (!cache) {
-        cache = std::make_shared<ReadCache>();
-        cache_ = cache;
-    }
+    if (CacheRef cache = cache_.lock()) return cache;
+    std::unique_ptr<ReadCache> storage = std::move(spare_->cache);
+    if (!storage) storage = std::make_unique<ReadCache>();
+    const auto giveBack = [spare = std::weak_ptr<Spare>(spare_)](ReadCache* used) {
+        std::unique_ptr<ReadCache> emptied(used);
+        emptied->clear();
+        if (const auto waiting = spare.lock()) waiting->cache = std::move(emptied);
+    };
+    CacheRef cache(storage.release(), giveBack);  // a failure here gives it back too
+    cache_ = cache;
     return cache;
 }
 

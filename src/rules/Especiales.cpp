@@ -4,7 +4,9 @@
 #include <optional>
 #include <vector>
 
+#include "host/CachedHost.h"
 #include "rules/LecturaReglas.h"
+#include "rules/NombresDeCodigos.h"
 #include "vb/Conversions.h"
 #include "vb/Strings.h"
 
@@ -40,7 +42,8 @@ void marcaTodos(common::ModVariables& mv, int k, bool valor) {
     for (int m = 0; m < mv.numModelos; ++m) mv.permisosModelo[m][k] = valor;
 }
 
-// One permission line per kind, the list looked up anew for every model.
+// One permission line per kind, the list looked up anew for every model; with the reads
+// kept, each code once (NombresDeCodigos.h), which asks the host the same.
 void llenaTipo(common::ModVariables& mv, int k, int32_t& sessionId, host::Catalog& catalog,
                const String& code) {
     const auto regla = reglaDe(sessionId, catalog, code);
@@ -48,6 +51,12 @@ void llenaTipo(common::ModVariables& mv, int k, int32_t& sessionId, host::Catalo
     const ReglaLeida leida = leeRegla(*regla);
     if (leida.todos) return marcaTodos(mv, k, true);
     const auto nombreDe = nombreEnTabla8(sessionId, catalog);
+    if (host::keepsReads(catalog)) {
+        NombresDeCodigos nombres(leida.piezas, nombreDe);
+        for (int m = 0; m < mv.numModelos; ++m)
+            mv.permisosModelo[m][k] = nombres.nombra(modeloDe(mv, m));
+        return;
+    }
     for (int m = 0; m < mv.numModelos; ++m) {
         mv.permisosModelo[m][k] = codigosNombran(leida.piezas, modeloDe(mv, m), nombreDe);
     }

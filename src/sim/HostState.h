@@ -8,6 +8,7 @@
 #include <unordered_set>
 #include <vector>
 
+#include "host/HostMembers.h"
 #include "sim/Faults.h"
 #include "sim/Recorder.h"
 #include "sim/Scenario.h"
@@ -44,8 +45,8 @@ class HostState {
     // Every host member runs its body through here: a member the plan leaves out raises 438
     // uncounted; otherwise the call is counted and recorded, and fails as the plan says.
     template <class Body>
-    vb::Variant member(const char* name, Body&& body) {
-        const std::optional<FaultKind> fault = enter(name);
+    vb::Variant member(host::Member name, Body&& body) {
+        const std::optional<FaultKind> fault = enter(host::memberName(name));
         vb::Variant answer = body();
         return fault ? faultyAnswer(*fault) : answer;
     }

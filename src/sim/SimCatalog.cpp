@@ -15,7 +15,7 @@ const Table* SimCatalog::table(int32_t number) const {
 }
 
 Variant SimCatalog::FileLoad(int32_t&, const String& path) {
-    return s_.member("FileLoad", [&] {
+    return s_.member(Member::FileLoad, [&] {
         const CatalogData* catalog = s_.world.catalog(path);
         if (catalog) s_.currentCatalog = catalog;
         s_.recorder.fileLoad(path, catalog != nullptr);
@@ -24,14 +24,14 @@ Variant SimCatalog::FileLoad(int32_t&, const String& path) {
 }
 
 Variant SimCatalog::GetInfo(int32_t&, int32_t code) {
-    return s_.member("GetInfo", [&] {
+    return s_.member(Member::GetInfo, [&] {
         if (code == kLanguageInfo && s_.currentCatalog) return Variant(s_.currentCatalog->language);
         return Variant(kEmpty);
     });
 }
 
 Variant SimCatalog::DicoGetStringFromKey(int32_t&, const String& text, const String& language) {
-    return s_.member("DicoGetStringFromKey", [&] {
+    return s_.member(Member::DicoGetStringFromKey, [&] {
         const auto& dictionary = s_.world.application.dictionary;
         const auto lang = dictionary.find(language);
         if (lang == dictionary.end()) return Variant(text);
@@ -41,7 +41,7 @@ Variant SimCatalog::DicoGetStringFromKey(int32_t&, const String& text, const Str
 }
 
 Variant SimCatalog::TableGetLinesNb(int32_t&, int32_t number, int16_t) {
-    return s_.member("TableGetLinesNb", [&] {
+    return s_.member(Member::TableGetLinesNb, [&] {
         const Table* t = table(number);
         return Variant(static_cast<int16_t>(t ? t->size() : 0));
     });
@@ -49,7 +49,7 @@ Variant SimCatalog::TableGetLinesNb(int32_t&, int32_t number, int16_t) {
 
 Variant SimCatalog::TableGetLineRankFromCode(int32_t&, int32_t number, int32_t, int16_t,
                                              const String& code, bool) {
-    return s_.member("TableGetLineRankFromCode", [&] {
+    return s_.member(Member::TableGetLineRankFromCode, [&] {
         const Table* t = table(number);
         return Variant(t ? t->rankFromCode(code) : int32_t{0});
     });
@@ -57,7 +57,7 @@ Variant SimCatalog::TableGetLineRankFromCode(int32_t&, int32_t number, int32_t, 
 
 Variant SimCatalog::TableGetLineRankFromName(int32_t&, int32_t number, int32_t, int16_t,
                                              const String& name, bool) {
-    return s_.member("TableGetLineRankFromName", [&] {
+    return s_.member(Member::TableGetLineRankFromName, [&] {
         const Table* t = table(number);
         return Variant(t ? t->rankFromName(name) : int32_t{0});
     });
@@ -65,7 +65,7 @@ Variant SimCatalog::TableGetLineRankFromName(int32_t&, int32_t number, int32_t, 
 
 Variant SimCatalog::TableGetLineInfo(int32_t&, int32_t number, int32_t, int32_t rank,
                                      int16_t column) {
-    return s_.member("TableGetLineInfo", [&] {
+    return s_.member(Member::TableGetLineInfo, [&] {
         const Table* t = table(number);
         const TableLine* line = t ? t->line(rank) : nullptr;
         if (!line) return Variant(kEmpty);
@@ -75,7 +75,7 @@ Variant SimCatalog::TableGetLineInfo(int32_t&, int32_t number, int32_t, int32_t 
 }
 
 Variant SimCatalog::FileExportResource(int32_t&, int32_t rank, const String& path) {
-    return s_.member("FileExportResource", [&] {
+    return s_.member(Member::FileExportResource, [&] {
         const Table* t = table(kResourceTable);
         const TableLine* line = t ? t->line(rank) : nullptr;
         bool ok = false;

@@ -9,6 +9,7 @@
 
 namespace sim {
 
+using host::Member;
 using host::String;
 using host::Variant;
 
@@ -27,13 +28,7 @@ class LiveCount {
 class SimAppli : public host::Appli {
   public:
     explicit SimAppli(HostState& state) : s_(state) {}
-    Variant StartSessionFromCallParams(int32_t& callParamsBlock) override;
-    Variant EndSession(int32_t& sessionId) override;
-    Variant GetLanguage(int32_t& sessionId) override;
-    Variant GetCallParamsInfo(int32_t& sessionId, int32_t code) override;
-    Variant InsertMenuItem(int32_t& sessionId, String& command, int16_t a, int16_t b,
-                           const String& text, int16_t c, int16_t d, const String& dll,
-                           const String& className, const String& method) override;
+    QUORBEL_APPLI_MEMBERS(QUORBEL_DECLARE_OVERRIDE)
 
   private:
     HostState& s_;
@@ -43,20 +38,7 @@ class SimAppli : public host::Appli {
 class SimScene : public host::Scene {
   public:
     explicit SimScene(HostState& state) : s_(state) {}
-    Variant ObjectGetInfo(int32_t& sessionId, int32_t objectId, int32_t code) override;
-    Variant ObjectSetInfo(int32_t& sessionId, int32_t objectId, const String& value,
-                          int32_t code) override;
-    Variant ViewRefresh(int32_t& sessionId) override;
-    Variant SceneGetObjectsNb(int32_t& sessionId) override;
-    Variant SceneGetObjectId(int32_t& sessionId, int32_t position) override;
-    Variant ObjectGetParentId(int32_t& sessionId, int32_t objectId) override;
-    Variant ObjectGetChildrenNb(int32_t& sessionId, int32_t objectId, int16_t mode) override;
-    Variant ObjectGetChildId(int32_t& sessionId, int32_t objectId, int32_t position,
-                             int16_t mode) override;
-    Variant ObjectGetScript(int32_t& sessionId, int32_t objectId) override;
-    Variant EditReplaceSelection(int32_t& sessionId, const String& catalog, const String& reference,
-                                 int16_t a, int32_t width, int32_t depth, int32_t height,
-                                 int16_t b) override;
+    QUORBEL_SCENE_MEMBERS(QUORBEL_DECLARE_OVERRIDE)
 
   private:
     const SceneObject* object(int32_t id) const;
@@ -67,18 +49,7 @@ class SimScene : public host::Scene {
 class SimCatalog : public host::Catalog {
   public:
     explicit SimCatalog(HostState& state) : s_(state) {}
-    Variant FileLoad(int32_t& sessionId, const String& path) override;
-    Variant GetInfo(int32_t& sessionId, int32_t code) override;
-    Variant DicoGetStringFromKey(int32_t& sessionId, const String& text,
-                                 const String& language) override;
-    Variant TableGetLinesNb(int32_t& sessionId, int32_t table, int16_t zero) override;
-    Variant TableGetLineRankFromCode(int32_t& sessionId, int32_t table, int32_t zero,
-                                     int16_t selector, const String& code, bool flag) override;
-    Variant TableGetLineRankFromName(int32_t& sessionId, int32_t table, int32_t zero,
-                                     int16_t selector, const String& name, bool flag) override;
-    Variant TableGetLineInfo(int32_t& sessionId, int32_t table, int32_t zero, int32_t rank,
-                             int16_t column) override;
-    Variant FileExportResource(int32_t& sessionId, int32_t rank, const String& path) override;
+    QUORBEL_CATALOG_MEMBERS(QUORBEL_DECLARE_OVERRIDE)
 
   private:
     const Table* table(int32_t number) const;

@@ -202,6 +202,41 @@ TEST_F(ReadCache, WhichReadsReachTheHost) {
          },
          {{"TableGetLineInfo", 3}},
          {{"TableGetLineInfo", 4}}},
+        {"a key's text is a copy, not the caller's string",
+         [](Objetos& o) {
+             String text(5000, u'x');  // longer than the kept texts' blocks
+             o.catalog->DicoGetStringFromKey(o.s, text, u"ENG");
+             text[0] = u'y';
+             o.catalog->DicoGetStringFromKey(o.s, text, u"ENG");
+             o.catalog->DicoGetStringFromKey(o.s, String(5000, u'x'), u"ENG");
+             o.catalog->DicoGetStringFromKey(o.s, text, u"ENG");
+         },
+         {{"DicoGetStringFromKey", 2}},
+         {{"DicoGetStringFromKey", 4}}},
+        {"many answers, forgotten at each write and kept again",
+         [](Objetos& o) {
+             for (int round = 0; round < 3; ++round) {
+                 for (int32_t id = 0; id < 1000; ++id) {
+                     o.info(id);
+                     o.info(id, 13);
+                     o.info(id);
+                 }
+                 o.scene->ObjectSetInfo(o.s, 100, u"1", 59);
+             }
+         },
+         {{"ObjectGetInfo", 6000}},
+         {{"ObjectGetInfo", 9000}}},
+        {"many lines of two files, each file's kept apart",
+         [](Objetos& o) {
+             for (int round = 0; round < 2; ++round) {
+                 for (const char16_t* file : {u"a.cat", u"b.cat"}) {
+                     o.carga(file);
+                     for (int32_t rank = 1; rank <= 500; ++rank) o.linea(rank);
+                 }
+             }
+         },
+         {{"TableGetLineInfo", 1000}},
+         {{"TableGetLineInfo", 2000}}},
         {"a session's start and end forget everything",
          [](Objetos& o) {
              o.linea(1);
@@ -294,9 +329,23 @@ TEST_F(ReadCache, TheCacheGoesWithTheLastObjectOfTheCall) {
     EXPECT_EQ(preguntas("TableGetLineInfo"), 2);
 }
 
+TEST_F(ReadCache, ObjectsThatOutliveTheirFactoryStillWork) {
+    Objetos o;
+    {
+        host::CachingFactory factory(host, ReadMode::Cached);
+        o = crea(factory);
+        o.linea(1);
+    }
+    EXPECT_EQ(o.linea(1), Variant(String(u"TIBER")));
+    EXPECT_EQ(preguntas("TableGetLineInfo"), 1);
+    o = Objetos{};  // the cache goes with them
+}
+
+// The memo, and whether the catalogue's reads are kept at all.
 TEST_F(ReadCache, FileMemoSitsBesideTheCurrentFilesAnswers) {
     host::CachingFactory literal(host, ReadMode::Literal);
     EXPECT_EQ(host::fileMemo(*host::createCatalog(literal)), nullptr);
+    EXPECT_FALSE(host::keepsReads(*host::createCatalog(literal)));
 
     host::CachingFactory factory(host, ReadMode::Cached);
     catalogo->ausentes = {u"ausente.cat"};
@@ -309,8 +358,10 @@ TEST_F(ReadCache, FileMemoSitsBesideTheCurrentFilesAnswers) {
     *host::fileMemo(*o.catalog) = 2;
     o.carga(u"ausente.cat");
     EXPECT_EQ(host::fileMemo(*o.catalog), nullptr);
+    EXPECT_FALSE(host::keepsReads(*o.catalog));
     o.carga(u"a.cat");
     EXPECT_EQ(std::any_cast<int>(*host::fileMemo(*o.catalog)), 1);
+    EXPECT_TRUE(host::keepsReads(*o.catalog));
     o.appli->EndSession(o.s);
     o.carga(u"a.cat");
     EXPECT_FALSE(host::fileMemo(*o.catalog)->has_value());
