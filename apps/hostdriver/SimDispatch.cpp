@@ -3,10 +3,16 @@
 #include <set>
 
 #include "com/ComArgs.h"
+#include "platform/Bstr.h"
 #include "vb/Errors.h"
 #include "vb/Strings.h"
 
 namespace hostdriver {
+
+using quorbel::fromBstr;
+using quorbel::storeBstr;
+using quorbel::toBstr;
+using quorbel::vbErrorCode;
 
 namespace {
 
@@ -42,17 +48,8 @@ bool fits(const VARIANT& v, Shape shape) {
     return true;
 }
 
-vb::String fromBstr(BSTR b) {
-    return vb::String(reinterpret_cast<const char16_t*>(b ? b : L""), b ? SysStringLen(b) : 0);
-}
-
-BSTR toBstr(const vb::String& s) {
-    return SysAllocStringLen(reinterpret_cast<const OLECHAR*>(s.data()),
-                             static_cast<UINT>(s.size()));
-}
-
 HRESULT raise(EXCEPINFO* excep, int number, const vb::String& description) {
-    const HRESULT code = MAKE_HRESULT(1, FACILITY_CONTROL, number & 0xFFFF);
+    const HRESULT code = vbErrorCode(number);
     if (!excep) return code;
     *excep = EXCEPINFO{};
     excep->bstrSource = SysAllocString(L"Pelmora");
@@ -83,8 +80,7 @@ CallArgs::~CallArgs() {
     for (size_t i = 0; i < params_.cArgs; ++i) {
         VARIANT& v = arg(i);
         if (V_VT(&v) != (VT_BSTR | VT_BYREF)) continue;
-        SysReAllocStringLen(V_BSTRREF(&v), reinterpret_cast<const OLECHAR*>(strings_[i].data()),
-                            static_cast<UINT>(strings_[i].size()));
+        storeBstr(V_BSTRREF(&v), strings_[i]);
     }
 }
 

@@ -3,6 +3,7 @@
 #include <cstdio>
 
 #include "platform/Ansi.h"
+#include "platform/Bstr.h"
 
 namespace quorbel {
 
@@ -38,7 +39,7 @@ std::string localTime() {
 std::string outcome(HRESULT result) {
     if (SUCCEEDED(result)) return "";
     char text[64];
-    if (HRESULT_FACILITY(result) == FACILITY_CONTROL) {
+    if (isVbErrorCode(result)) {
         std::snprintf(text, sizeof text, "  the call ended with error %u\r\n",
                       static_cast<unsigned>(HRESULT_CODE(result)));
     } else {

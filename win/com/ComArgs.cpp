@@ -1,16 +1,15 @@
 #include "com/ComArgs.h"
 
-#include "vb/Errors.h"
+#include "platform/Bstr.h"
 
 namespace quorbel {
 
 RefStr::RefStr(BSTR* p) : p_(p) {
-    if (*p) value.assign(reinterpret_cast<const char16_t*>(*p), SysStringLen(*p));
+    value = fromBstr(*p);
 }
 
 RefStr::~RefStr() {
-    SysReAllocStringLen(p_, reinterpret_cast<const OLECHAR*>(value.data()),
-                        static_cast<UINT>(value.size()));
+    storeBstr(p_, value);
 }
 
 void toVariant(const vb::Variant& in, VARIANT* out) {
@@ -39,9 +38,7 @@ void toVariant(const vb::Variant& in, VARIANT* out) {
             break;
         case vb::VarType::String:
             V_VT(out) = VT_BSTR;
-            V_BSTR(out) = SysAllocStringLen(reinterpret_cast<const OLECHAR*>(in.str().data()),
-                                            static_cast<UINT>(in.str().size()));
-            if (!V_BSTR(out)) throw vb::RuntimeError(7, u"Out of memory");
+            V_BSTR(out) = newBstr(in.str());
             break;
     }
 }

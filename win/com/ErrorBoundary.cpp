@@ -4,6 +4,7 @@
 
 #include <new>
 
+#include "platform/Bstr.h"
 #include "vb/Errors.h"
 
 namespace quorbel {
@@ -16,8 +17,7 @@ constexpr int kOutOfMemory = 7;
 
 HRESULT reportError(int number, const vb::String& description) noexcept {
     // A BSTR rather than a std::wstring: nothing here may raise, even when memory is short.
-    BSTR text = SysAllocStringLen(reinterpret_cast<const OLECHAR*>(description.data()),
-                                  static_cast<UINT>(description.size()));
+    BSTR text = toBstr(description);
     ICreateErrorInfo* create = nullptr;
     if (SUCCEEDED(CreateErrorInfo(&create))) {
         create->SetSource(const_cast<LPOLESTR>(L"Quorbel"));
@@ -30,7 +30,7 @@ HRESULT reportError(int number, const vb::String& description) noexcept {
         create->Release();
     }
     SysFreeString(text);
-    return MAKE_HRESULT(1, FACILITY_CONTROL, number & 0xFFFF);
+    return vbErrorCode(number);
 }
 
 HRESULT reportCurrentException() noexcept {

@@ -1,5 +1,7 @@
 #include "host/AutomationError.h"
 
+#include "platform/Bstr.h"
+
 namespace quorbel {
 
 namespace {
@@ -26,14 +28,10 @@ constexpr Mapping kVbNumbers[] = {
     {DISP_E_BADVARTYPE, 458},        // Variable uses an Automation type not supported
 };
 
-vb::String fromBstr(BSTR b) {
-    return vb::String(reinterpret_cast<const char16_t*>(b ? b : L""), b ? SysStringLen(b) : 0);
-}
-
 }  // namespace
 
 int automationErrorNumber(HRESULT code) {
-    if (HRESULT_FACILITY(code) == FACILITY_CONTROL) return HRESULT_CODE(code);
+    if (isVbErrorCode(code)) return HRESULT_CODE(code);
     for (const Mapping& m : kVbNumbers)
         if (m.code == code) return m.number;
     return vb::err::kAutomation;

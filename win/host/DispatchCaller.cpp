@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "host/AutomationError.h"
+#include "platform/Bstr.h"
 #include "vb/Errors.h"
 
 namespace quorbel {
@@ -34,18 +35,12 @@ Arg Arg::boolean(bool v) {
 Arg Arg::str(const vb::String& v) {
     Arg a;
     V_VT(&a.v_) = VT_BSTR;
-    V_BSTR(&a.v_) =
-        SysAllocStringLen(reinterpret_cast<const OLECHAR*>(v.data()), static_cast<UINT>(v.size()));
-    if (!V_BSTR(&a.v_)) throw vb::RuntimeError(7, u"Out of memory");
+    V_BSTR(&a.v_) = newBstr(v);
     return a;
 }
-static vb::String fromBstr(BSTR b);
-
 Arg Arg::strRef(vb::String& v) {
     Arg a;
-    a.refStr_ =
-        SysAllocStringLen(reinterpret_cast<const OLECHAR*>(v.data()), static_cast<UINT>(v.size()));
-    if (!a.refStr_) throw vb::RuntimeError(7, u"Out of memory");
+    a.refStr_ = newBstr(v);
     a.target_ = &v;
     V_VT(&a.v_) = VT_BSTR | VT_BYREF;
     V_BSTRREF(&a.v_) = &a.refStr_;
@@ -83,10 +78,6 @@ DISPID DispatchCaller::dispid(const wchar_t* member) {
         throw vb::RuntimeError(vb::err::kNoSuchMember);
     ids_[member] = id;
     return id;
-}
-
-static vb::String fromBstr(BSTR b) {
-    return vb::String(reinterpret_cast<const char16_t*>(b ? b : L""), b ? SysStringLen(b) : 0);
 }
 
 vb::Variant fromVariant(const VARIANT& in) {

@@ -3,7 +3,7 @@
 #include <msxml2.h>
 #include <windows.h>
 
-#include "platform/Ansi.h"
+#include "platform/Bstr.h"
 #include "vb/Errors.h"
 
 namespace quorbel {
@@ -12,12 +12,6 @@ namespace {
 // Not in the import library: the second-edition document interface, for setProperty.
 const IID kIidDocument2 = {
     0x2933BF95, 0x7B36, 0x11d2, {0xB2, 0x0E, 0x00, 0xC0, 0x4F, 0x98, 0x3E, 0x60}};
-
-vb::String takeBstr(BSTR b) {
-    vb::String s = b ? narrowWide(b, SysStringLen(b)) : vb::String();
-    SysFreeString(b);
-    return s;
-}
 
 class MsxmlNode : public platform::XmlNode {
   public:
@@ -98,8 +92,7 @@ class MsxmlDocument : public platform::XmlDocument {
             loadEmpty();
             return false;
         }
-        BSTR b = SysAllocStringLen(reinterpret_cast<const OLECHAR*>(text.data()),
-                                   static_cast<UINT>(text.size()));
+        BSTR b = newBstr(text);
         VARIANT_BOOL ok = VARIANT_FALSE;
         HRESULT hr = doc_->loadXML(b, &ok);
         SysFreeString(b);
@@ -107,8 +100,7 @@ class MsxmlDocument : public platform::XmlDocument {
     }
     std::vector<std::shared_ptr<platform::XmlNode>> getElementsByTagName(
         const vb::String& name) const override {
-        BSTR b = SysAllocStringLen(reinterpret_cast<const OLECHAR*>(name.data()),
-                                   static_cast<UINT>(name.size()));
+        BSTR b = newBstr(name);
         IXMLDOMNodeList* list = nullptr;
         doc_->getElementsByTagName(b, &list);
         SysFreeString(b);

@@ -1,4 +1,4 @@
-// The include rule of docs/layers.md, read from its table: every folder of src/ has a layer,
+// The include rule of docs/architecture.md, read from its table: every folder of src/ has a layer,
 // and every `#include "folder/..."` under src/ points into the file's own folder or down.
 #include <gtest/gtest.h>
 
@@ -69,17 +69,17 @@ std::vector<Include> includesUnderSrc() {
 }
 
 TEST(Layers, EveryFolderOfSrcHasALayer) {
-    const Layers layers = readLayers(kSource / "docs" / "layers.md");
-    ASSERT_FALSE(layers.empty()) << "docs/layers.md has no table";
+    const Layers layers = readLayers(kSource / "docs" / "architecture.md");
+    ASSERT_FALSE(layers.empty()) << "docs/architecture.md has no table";
     for (const auto& entry : fs::directory_iterator(kSource / "src")) {
         const std::string folder = entry.path().filename().string();
         if (!entry.is_directory()) continue;
-        EXPECT_TRUE(layers.count(folder)) << "src/" << folder << " is not in docs/layers.md";
+        EXPECT_TRUE(layers.count(folder)) << "src/" << folder << " is not in docs/architecture.md";
     }
 }
 
 TEST(Layers, IncludesPointDown) {
-    const Layers layers = readLayers(kSource / "docs" / "layers.md");
+    const Layers layers = readLayers(kSource / "docs" / "architecture.md");
     for (const Include& include : includesUnderSrc()) {
         const std::string why = fault(layers, include.from, include.folder);
         EXPECT_TRUE(why.empty()) << include.where << ": includes from " << include.folder
