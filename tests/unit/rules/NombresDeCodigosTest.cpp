@@ -7,10 +7,12 @@
 #include <string>
 #include <vector>
 
-#include "FakeHost.h"
+#include "common/ModVariables.h"
 #include "host/CachingFactory.h"
 #include "rules/Especiales.h"
 #include "rules/Modelos.h"
+#include "sim/Player.h"
+#include "vb/Errors.h"
 #include "vb/Strings.h"
 
 namespace {
@@ -18,23 +20,59 @@ namespace {
 using host::ReadMode;
 using vb::String;
 
-// Table 8's reads, in order; looking up the code "FALLA" raises.
-class Tabla8 : public fake::Catalog {
+const String kRuta = u"C:\\Cat\\a.cat";
+
+// The simulated catalogue, noting table 8's reads in order; looking up the code "FALLA" makes
+// the host raise.
+class Tabla8 : public sim::SimCatalog {
   public:
-    using fake::Catalog::Catalog;
-    std::vector<std::string> lecturas;
+    Tabla8(sim::HostState& state, std::vector<std::string>& lecturas)
+        : sim::SimCatalog(state), state_(state), lecturas_(lecturas) {}
     host::Variant TableGetLineRankFromCode(int32_t& s, int32_t t, int32_t z, int16_t sel,
                                            const String& code, bool flag) override {
-        if (t == 8) lecturas.push_back("rank " + vb::toUtf8(code));
-        if (code == u"FALLA") throw vb::RuntimeError(440, u"busy");
-        return fake::Catalog::TableGetLineRankFromCode(s, t, z, sel, code, flag);
+        if (t == 8) lecturas_.push_back("rank " + vb::toUtf8(code));
+        if (code == u"FALLA") state_.faults.counted.push_back({state_.hostCallsMade + 1});
+        return sim::SimCatalog::TableGetLineRankFromCode(s, t, z, sel, code, flag);
     }
     host::Variant TableGetLineInfo(int32_t& s, int32_t t, int32_t z, int32_t r,
                                    int16_t c) override {
-        if (t == 8) lecturas.push_back("line " + std::to_string(r) + "," + std::to_string(c));
-        return fake::Catalog::TableGetLineInfo(s, t, z, r, c);
+        if (t == 8) lecturas_.push_back("line " + std::to_string(r) + "," + std::to_string(c));
+        return sim::SimCatalog::TableGetLineInfo(s, t, z, r, c);
     }
+
+  private:
+    sim::HostState& state_;
+    std::vector<std::string>& lecturas_;
 };
+
+// The simulated host whose catalogue objects note their reads.
+class Anfitrion : public host::Factory {
+  public:
+    explicit Anfitrion(sim::Simulation& simulation) : sim_(simulation) {}
+    std::shared_ptr<host::HostObject> CreateObject(const String& progId) override {
+        if (!vb::equalText(progId, host::kProgIdCatalog))
+            return sim_.factory().CreateObject(progId);
+        return std::make_shared<Tabla8>(sim_.state(), lecturas);
+    }
+    std::vector<std::string> lecturas;
+
+  private:
+    sim::Simulation& sim_;
+};
+
+// Two models share a name; a line without script is no model, and its code is another's
+// (the search by code finds the first).
+sim::World mundo(const String& lista) {
+    sim::World world;
+    auto& tables = world.addCatalog(kRuta, u"ESP").tables;
+    for (const auto& [code, name, script] :
+         {std::tuple{u"M1", u"TIBER", u"s"}, std::tuple{u"M2", u"MONZA", u"s"},
+          std::tuple{u"M3", u"URAL", u"s"}, std::tuple{u"M4", u"TIBER", u"s"},
+          std::tuple{u"M2", u"OTRA", u""}, std::tuple{u"M6", u"SOLA", u"s"}})
+        tables[8].add({code, u"", {{1, code}, {3, name}, {4, script}}, u""});
+    tables[2].add({u"MO_EA", u"", {{2, lista}}, u""});
+    return world;
+}
 
 struct Juego {
     std::vector<std::vector<bool>> permisos;
@@ -42,25 +80,15 @@ struct Juego {
     bool error = false;
 };
 
-fake::Line modelo(const String& code, const String& name, const String& script = u"s") {
-    return {code, u"", {{1, code}, {3, name}, {4, script}}};
-}
-
 Juego juega(ReadMode mode, const String& lista) {
     auto& mv = common::modVariables();
     mv = common::ModVariables{};
-    fake::Factory host;
-    auto tabla = std::make_shared<Tabla8>(host.calls);
-    // Two models share a name; a line without script is no model, and its code is another's
-    // (the search by code finds the first).
-    tabla->tables[8] = {modelo(u"M1", u"TIBER"),     modelo(u"M2", u"MONZA"),
-                        modelo(u"M3", u"URAL"),      modelo(u"M4", u"TIBER"),
-                        modelo(u"M2", u"OTRA", u""), modelo(u"M6", u"SOLA")};
-    tabla->tables[2] = {{u"MO_EA", u"", {{2, lista}}}};
-    host.catalog = tabla;
-    host::CachingFactory factory(host, mode);
+    sim::Simulation simulation(mundo(lista));
+    Anfitrion anfitrion(simulation);
+    host::CachingFactory factory(anfitrion, mode);
     host::CatalogRef catalog = host::createCatalog(factory);
     int32_t session = 1;
+    catalog->FileLoad(session, kRuta);
     rules::InicEsp();
     rules::GenModEsp(session, *catalog);
     Juego juego;
@@ -70,7 +98,7 @@ Juego juega(ReadMode mode, const String& lista) {
         juego.error = true;
     }
     juego.permisos = mv.permisosModelo;
-    juego.lecturas = tabla->lecturas;
+    juego.lecturas = anfitrion.lecturas;
     mv = common::ModVariables{};
     return juego;
 }
@@ -98,6 +126,7 @@ TEST(NombresDeCodigos, KeptReadsGiveTheLiteralMatrixAndReads) {
         const Juego literal = juega(ReadMode::Literal, lista);
         const Juego guardado = juega(ReadMode::Cached, lista);
         const std::string caso = vb::toUtf8(lista);
+        EXPECT_EQ(literal.error, caso.find("FALLA") != std::string::npos) << caso;
         EXPECT_EQ(guardado.permisos, literal.permisos) << caso;
         EXPECT_EQ(guardado.error, literal.error) << caso;
         EXPECT_EQ(guardado.lecturas, primeras(literal.lecturas)) << caso;
