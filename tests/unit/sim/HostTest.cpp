@@ -1,5 +1,5 @@
-// The simulated host's members: ranks and lookups, the current catalogue, sessions, the id -2,
-// resource export and call counting.
+// The simulated host's members: ranks and lookups, the current catalogue, the id -2, resource
+// export and call counting.
 #include <gtest/gtest.h>
 
 #include "sim/Player.h"
@@ -33,9 +33,8 @@ class Host : public ::testing::Test {
   protected:
     Host() : simulation(sampleWorld()) {}
 
-    void begin(std::optional<int32_t> object, bool session = true) {
+    void begin(std::optional<int32_t> object) {
         spec.object = object;
-        spec.session = session;
         simulation.state().call = {1001, &spec};
         simulation.recorder().beginCall("Plugin", "Test");
     }
@@ -46,7 +45,6 @@ class Host : public ::testing::Test {
 
     sim::Simulation simulation;
     sim::CallSpec spec;
-    sim::SimAppli appli{simulation.state()};
     sim::SimScene scene{simulation.state()};
     sim::SimCatalog catalog{simulation.state()};
     int32_t sid = 1;
@@ -111,17 +109,6 @@ TEST_F(Host, MinusTwoIsTheCallsObjectAndEventsCarryRealIds) {
     EXPECT_EQ(call["events"][0],
               Json({{"type", "setInfo"}, {"object", 100}, {"code", 12}, {"value", "600"}}));
     EXPECT_EQ(simulation.state().objectsJson()["100"]["12"], "600");
-}
-
-TEST_F(Host, SessionsNumberInOrderAndFalseGivesNone) {
-    begin(100);
-    int32_t block = 1001;
-    EXPECT_EQ(vb::CLng(appli.StartSessionFromCallParams(block)), 1);
-    EXPECT_EQ(vb::CLng(appli.StartSessionFromCallParams(block)), 2);
-    end();
-    begin(100, false);
-    EXPECT_EQ(vb::CLng(appli.StartSessionFromCallParams(block)), 0);
-    end();
 }
 
 TEST_F(Host, ExportWritesTheResourceWhereTheFolderExists) {

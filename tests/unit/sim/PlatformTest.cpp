@@ -1,5 +1,5 @@
-// The native platform over the virtual files: profile reads, Dir, sizes, folders, text lines,
-// the attribute dialog and message boxes.
+// The native platform over the virtual files: profile reads, Dir, sizes, folders, text lines and
+// the attribute dialog.
 #include <gtest/gtest.h>
 
 #include "native/IniProfile.h"
@@ -111,17 +111,6 @@ TEST_F(Platform, AttributeDialogTextIsCutToTheBuffer) {
     EXPECT_EQ(platform.GetDlgItemText(handle, 150, 11), u"1234567890");
     EXPECT_EQ(platform.GetDlgItemText(handle, 151, 11), u"");
     EXPECT_EQ(platform.GetDlgItemText(handle + 1, 150, 11), u"");
-}
-
-TEST_F(Platform, MessageBoxesAndBeepsAreEvents) {
-    simulation.recorder().beginCall("Plugin", "X");
-    platform.messageBox(u"Hola", u"Quorbel", platform::MsgIcon::Critical);
-    platform.beep();
-    simulation.recorder().endCall(true, nullptr);
-    const auto& events = simulation.recorder().calls()[0]["events"];
-    EXPECT_EQ(events[0]["icon"], "critical");
-    EXPECT_EQ(events[1]["type"], "beep");
-    EXPECT_EQ(platform.moduleFolder(), u"C:\\Quorbel");
 }
 
 }  // namespace

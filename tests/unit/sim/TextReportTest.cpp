@@ -41,14 +41,4 @@ TEST(TextReport, DrawsEachCallForAPerson) {
               "Files created: none\n");
 }
 
-TEST(Recorder, SnapshotsHoldOnlyTheFieldsAControlHas) {
-    dialog::ControlElement label;
-    label.caption = u"Ancho:";
-    label.enabled = false;
-    const sim::Json j = sim::snapshotJson({u"T", {{u"EtiqMedEsp", {label, {}}}}});
-    EXPECT_EQ(
-        j.dump(),
-        R"({"type":"snapshot","title":"T","controls":{"EtiqMedEsp":[{"caption":"Ancho:","enabled":false},{}]}})");
-}
-
 }  // namespace
