@@ -1,5 +1,6 @@
-// The permission matrix of a world whose tables say what each cell must be: placement against the
-// dialog by door model and kind, the lines a placement reads, the exception lists, and the page.
+// The permission matrix of a clean world: the lines a placement reads, the exception lists, the
+// page and the text. The cells' words are pinned by the test lint.matrix_page, which renders
+// tests/tools/matrix-world.json and compares every cell with matrix-world.cells.
 #include <gtest/gtest.h>
 
 #include "World.h"
@@ -13,67 +14,6 @@ using namespace lint_test;
 std::vector<lint::CatalogueMatrix> matrixOf(const Json& world) {
     return lint::permissionMatrix(sim::loadScenario(world.dump())->world);
 }
-
-struct Cell {
-    const char* model;
-    int kind;
-    const char* placement;
-    const char* dialog;
-};
-
-struct MatrixCase {
-    const char* name;
-    std::function<void(Json&)> change;
-    std::vector<Cell> cells;
-};
-
-void PrintTo(const MatrixCase& c, std::ostream* os) {
-    *os << c.name;
-}
-
-class Matrix : public ::testing::TestWithParam<MatrixCase> {};
-
-TEST_P(Matrix, HasTheCells) {
-    Json world = cleanWorld();
-    GetParam().change(world);
-    const auto matrices = matrixOf(world);
-    ASSERT_EQ(matrices.size(), 1u);
-    for (const auto& expected : GetParam().cells) {
-        const lint::MatrixRow* row = nullptr;
-        for (const auto& r : matrices[0].rows)
-            if (vb::toUtf8(r.model) == expected.model) row = &r;
-        ASSERT_NE(row, nullptr) << expected.model;
-        const auto& cell = row->cells[expected.kind];
-        EXPECT_EQ(vb::toUtf8(lint::placementWords(cell)), expected.placement)
-            << expected.model << ", kind " << expected.kind;
-        EXPECT_EQ(vb::toUtf8(lint::dialogWords(cell)), expected.dialog)
-            << expected.model << ", kind " << expected.kind;
-    }
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Cells, Matrix,
-    ::testing::Values(MatrixCase{"EachKindByItsLine",
-                                 [](Json&) {},
-                                 {{"TIBER", 0, "permitted by MO_EA", "offered"},
-                                  {"MONZA", 0, "refused by MO_EA", "not offered"},
-                                  {"MONZA", 3, "permitted by MO_EAAl", "offered"},
-                                  {"MONZA", 5, "permitted by MO_EAAl", "offered"},
-                                  {"MONZA", 6, "stays (no line decides)", "offered"}}},
-                      MatrixCase{"HeightAndDepthOfferedByOneLineDecidedByAnother",
-                                 [](Json& w) { setRule(w, "MO_EAlF", "MO: M01"); },
-                                 {{"MONZA", 5, "permitted by MO_EAAl", "not offered"},
-                                  {"TIBER", 5, "permitted by MO_EAAl", "offered"}}},
-                      MatrixCase{"WidthAndHeightLineRefusesHeightAndDepth",
-                                 [](Json& w) { setRule(w, "MO_EAAl", "MO: M01"); },
-                                 {{"MONZA", 3, "refused by MO_EAAl", "not offered"},
-                                  {"MONZA", 5, "refused by MO_EAAl", "offered"}}},
-                      MatrixCase{"NoLineRefusesEveryModel",
-                                 [](Json& w) { removeLine(w, 2, "MO_EF"); },
-                                 {{"TIBER", 2, "refused by MO_EF", "not offered"}}},
-                      MatrixCase{"AllPermitsEveryModel",
-                                 [](Json& w) { setRule(w, "MO_EA", "MO: ALL"); },
-                                 {{"MONZA", 0, "permitted by MO_EA", "offered"}}}));
 
 TEST(MatrixKinds, NameTheLinesAPlacementReads) {
     const auto m = matrixOf(cleanWorld())[0];

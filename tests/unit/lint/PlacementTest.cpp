@@ -77,12 +77,6 @@ INSTANTIATE_TEST_SUITE_P(
               "depth on a cabinet with an \"EAlF_\" child is decided by MO_EAAl for the "
               "height and the depth; so a placement keeps that change for \"MONZA\", to "
               "which the special-editing dialog does not offer type ALTO_FONDO"}},
-        Case{"AllThreeLineRefusesWhatAPlacementKeeps",
-             [](Json& w) { setRule(w, "MO_EAAlF", "MO: M01"); },
-             {T2 + "MO_EAAlF: warning: placement never reads this line: a change of the width, the "
-                   "height and the depth on a cabinet with an \"EAAF_\" child keeps the width, "
-                   "the height and the depth whatever the lines say; so a placement keeps that "
-                   "change for \"MONZA\""}},
         Case{"WidthAndHeightLineAlsoDecidesHeightAndDepth",
              [](Json& w) { w["scene"][0]["children"] = Json::array({child(101, "EAlF_01")}); },
              {T2 + "MO_EAAl: warning: at placement this line also decides the depth when the "
