@@ -46,26 +46,6 @@ TEST(CajeosParaXml, EscapesWhatNoReaderCouldParse) {
     for (const auto& c : cases) EXPECT_EQ(dialog::cajeosParaXml(c.stored), c.xml);
 }
 
-// What the writer writes with such texts loads, and the reader sees the texts as written.
-TEST(CajeosParaXml, TheWritersDocumentLoadsWithItsTexts) {
-    const String stored =
-        u"<CAJEOS>\r\n\t<CAJEO>\r\n\t\t<TITULO>Pilar <b> & Cía</TITULO>\r\n\t\t<PARAM>\r\n"
-        u"\t\t\t<ETIQ>Prof. & alto</ETIQ>\r\n\t\t\t<VALOR>10</VALOR>\r\n"
-        u"\t\t\t<VALORMAX>550</VALORMAX>\r\n\t\t\t<INDICE>0</INDICE>\r\n\t\t</PARAM>\r\n"
-        u"\t\t<PARAM>\r\n\t\t\t<ETIQ>A<B ]]> &#38;</ETIQ>\r\n\t\t\t<VALOR>5</VALOR>\r\n"
-        u"\t\t\t<VALORMAX>720</VALORMAX>\r\n\t\t\t<INDICE>1</INDICE>\r\n\t\t</PARAM>\r\n"
-        u"\t</CAJEO>\r\n</CAJEOS>";
-    native::LibxmlDocument raw;
-    EXPECT_FALSE(raw.loadXML(stored));
-    native::LibxmlDocument doc;
-    ASSERT_TRUE(doc.loadXML(dialog::cajeosParaXml(stored)));
-    EXPECT_EQ(doc.getElementsByTagName(u"TITULO").at(0)->text(), u"Pilar <b> & Cía");
-    const auto etiquetas = doc.getElementsByTagName(u"ETIQ");
-    ASSERT_EQ(etiquetas.size(), 2u);
-    EXPECT_EQ(etiquetas[0]->text(), u"Prof. & alto");
-    EXPECT_EQ(etiquetas[1]->text(), u"A<B ]]> &");
-}
-
 // A text holding one of the format's tags is read as that tag; the document is then broken
 // and loads as an empty one, as any other broken document does.
 TEST(CajeosParaXml, ATagInsideATextBreaksTheDocument) {
