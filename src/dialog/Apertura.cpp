@@ -52,6 +52,14 @@ void avisaCatalogoAusente(platform::Platform& platform, const vb::String& ruta) 
                         platform::MsgIcon::Critical);
 }
 
+void leeMedidas() {
+    auto& mv = common::modVariables();
+    auto& scene = host::use(mv.miScene);
+    mv.medidaAncho = vb::CStr(scene.ObjectGetInfo(mv.miSessionId, -2, 12));
+    mv.medidaFondo = vb::CStr(scene.ObjectGetInfo(mv.miSessionId, -2, 13));
+    mv.medidaAlto = vb::CStr(scene.ObjectGetInfo(mv.miSessionId, -2, 14));
+}
+
 bool sesionComponentes(env::Env& env, int32_t lCallParamsBlock, bool refresca,
                        const std::function<bool()>& trabajo) {
     auto& mv = common::modVariables();

@@ -20,6 +20,10 @@ void avisaErrorComponentes(platform::Platform& platform, const vb::RuntimeError&
 // "Error: no se encontró el archivo <ruta>." with the critical-stop icon.
 void avisaCatalogoAusente(platform::Platform& platform, const vb::String& ruta);
 
+// The edited object's measures (information 12, 13, 14 of -2) into medidaAncho, medidaFondo and
+// medidaAlto, which the dialog compares the new ones against.
+void leeMedidas();
+
 // The session of a components handler, Plugin's or Wizard's: numTiposEsp = 7, the shared host
 // objects created and the shared session opened, then `trabajo` (its answer is the result) when
 // the session is open. A runtime error raised meanwhile is shown (avisaErrorComponentes) and

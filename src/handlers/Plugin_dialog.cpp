@@ -5,25 +5,16 @@
 #include "dialog/Apertura.h"
 #include "handlers/Plugin.h"
 #include "handlers/Preparacion.h"
-#include "host/Factory.h"
-#include "vb/Conversions.h"
 
 namespace handlers {
 
 namespace {
 
-void leeMedidas(common::ModVariables& mv) {
-    auto& scene = host::use(mv.miScene);
-    mv.medidaAncho = vb::CStr(scene.ObjectGetInfo(mv.miSessionId, -2, 12));
-    mv.medidaFondo = vb::CStr(scene.ObjectGetInfo(mv.miSessionId, -2, 13));
-    mv.medidaAlto = vb::CStr(scene.ObjectGetInfo(mv.miSessionId, -2, 14));
-}
-
 // The work of an open session: the dialog when the object's catalogue loads.
 void abreDialogo(Env& env) {
     auto& mv = common::modVariables();
     mv.dirCatalogos = common::leeDirCatalogos(env) + u"\\";
-    leeMedidas(mv);
+    dialog::leeMedidas();
     const common::CargaCatalogo carga = common::cargaCatalogoObjeto(env, -2);
     if (!carga.cargado) {
         dialog::avisaCatalogoAusente(env.platform, carga.ruta);

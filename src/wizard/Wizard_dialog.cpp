@@ -23,9 +23,7 @@ bool abreDialogo(Wizard& w, env::Env& env) {
     auto& mv = common::modVariables();
     auto& scene = host::use(mv.miScene);
     mv.dirCatalogos = common::leeDirCatalogosTexto(env);
-    mv.medidaAncho = vb::CStr(scene.ObjectGetInfo(mv.miSessionId, -2, 12));
-    mv.medidaFondo = vb::CStr(scene.ObjectGetInfo(mv.miSessionId, -2, 13));
-    mv.medidaAlto = vb::CStr(scene.ObjectGetInfo(mv.miSessionId, -2, 14));
+    dialog::leeMedidas();
     String ruta =
         mv.dirCatalogos + u"\\" + vb::CStr(scene.ObjectGetInfo(mv.miSessionId, -2, 0)) + u".cat";
     if (!esCatalogoPropio(scene.ObjectGetInfo(mv.miSessionId, -2, 2))) return true;
